@@ -1,0 +1,20 @@
+// The editor: chooses the backends, builds the windows, runs them.
+#include "editor/frmMain.h"
+#include "level/globals.h"
+#include "platform/paths.h"
+#include "platform/qt/application.h"
+
+int main(int argc, char** argv) {
+  qt::Application application(argc, argv);
+  paths::InstallFolder(paths::ProgramFolder());
+  dialogs::Use(&application.Dialogs());
+  createPlatformRoot = [&application] { return application.CreateRoot(); };
+
+  SystemClock clock;
+  frmMain form({clock, application.Pump(), application.Desktop()});
+  application.Build(form.controls.frmMain);
+  application.Build(form.about.window);
+  const bool ran = form.Form_Load();
+  dialogs::Use(nullptr);
+  return ran ? 0 : 1;
+}

@@ -1,0 +1,130 @@
+#include "editor/frmMain.h"
+
+#include <algorithm>
+
+#include "files/FileIO.h"
+#include "level/backdrop.h"
+#include "level/globals.h"
+#include "platform/dialogs.h"
+#include "platform/paths.h"
+#include "play/DirectInput.h"
+#include "render/DirectX.h"
+#include "render/RenderFrame.h"
+
+namespace {
+
+constexpr double kFrameMilliseconds = 40.0;
+
+double Milliseconds(int64_t counts, int64_t frequency) {
+  return static_cast<double>(counts) / static_cast<double>(frequency) * 1000.0;
+}
+
+}  // namespace
+
+frmMain::frmMain(const Services& services) : services_(services) {
+  ConnectEvents();
+  FileIO::TrackReplaced = [this] { TrackReplaced(); };
+}
+
+frmMain::~frmMain() { FileIO::TrackReplaced = nullptr; }
+
+bool frmMain::Form_Load() {
+  if (!Start()) return false;
+  while (Running_) Pass();
+  return true;
+}
+
+bool frmMain::Start() {
+  StartDocument();
+  controls.File1.Folder(paths::InInstallFolder("\\textures\\"));
+  Running_ = DirectX::InitDirect3D(controls.viewport) && DirectInput::InitKeyboard();
+  if (!Running_) {
+    EndAfterFailedStart();
+    return false;
+  }
+  Document.BackgroundName = kDefaultBackdrop;
+  ShowBackdrop(kDefaultBackdrop);
+  controls.VScroll1.Value(controls.VScroll1.Maximum());
+  CounterFrequency_ = services_.clock.Frequency();
+  controls.File1.ListIndex(0);
+  Document.ObjectSelected = false;
+  controls.frmMain.Show();
+  controls.Check_Loop.Enabled(false);
+  Document.PlatformsPaused = false;
+  dialogs::Enter([this] { NewTrack(); });
+  LastFrameCount_ = services_.clock.Counter();
+  return true;
+}
+
+void frmMain::StartDocument() {
+  Document = LevelDocument();
+  Document.EditorMode = EditMode;
+  Document.TrackLoaded = false;
+  Document.TextureDir = paths::InInstallFolder("\\textures\\");
+  Document.BackgroundDir = paths::InInstallFolder("\\backgrounds\\");
+}
+
+void frmMain::Pass() {
+  const double elapsed = Milliseconds(NowCount_ - LastFrameCount_, CounterFrequency_);
+  if (elapsed > kFrameMilliseconds) {
+    Frame();
+    return;
+  }
+  NowCount_ = services_.clock.Counter();
+  // Sleeping in the pump until the mark keeps an idle editor from burning a core.
+  const double sinceFrame = Milliseconds(NowCount_ - LastFrameCount_, CounterFrequency_);
+  services_.pump.Pump(std::max(0.0, kFrameMilliseconds - sinceFrame));
+}
+
+void frmMain::Frame() {
+  LastFrameCount_ = services_.clock.Counter();
+  try {
+    FrameSteps();
+  } catch (const std::exception& failure) {
+    // A frame fails 25 times a second; the user is told once.
+    if (lastFrameFailure_ != failure.what()) {
+      lastFrameFailure_ = failure.what();
+      dialogs::ShowMessage(lastFrameFailure_);
+    }
+  }
+  services_.pump.Pump(0);
+  NowCount_ = services_.clock.Counter();
+}
+
+void frmMain::FrameSteps() {
+  ProcessKeyboard();
+  RenderFrame();
+  if (!Document.PlatformsPaused) MovePlatforms();
+}
+
+void frmMain::MovePlatforms() {
+  for (clsMovingPlatform& platform : Live(Document.Platforms, Document.PlatformCount)) {
+    platform.move();
+  }
+}
+
+void frmMain::ProcessKeyboard() {
+  if (!DirectInput::PollKeyboard()) return;
+  using DirectInput::Held;
+  const bool shift = Held(scancode::kLeftShift) || Held(scancode::kRightShift);
+  if (Document.EditorMode == EditMode && shift) {
+    ScrollBar& bar = controls.VScroll1;
+    if (Held(scancode::kUp) && bar.Value() > bar.Minimum()) bar.Value(bar.Value() - 1);
+    if (Held(scancode::kDown) && bar.Value() < bar.Maximum()) bar.Value(bar.Value() + 1);
+  }
+  DirectX::ApplyCamera();
+}
+
+void frmMain::EndAfterFailedStart() {
+  DirectX::ReleaseDirectX();
+  controls.frmMain.Unload();
+}
+
+void frmMain::Shutdown() {
+  Running_ = false;
+  DirectInput::KeyboardDevice.reset();
+  DirectInput::DI.reset();
+  DirectX::ReleaseDirectX();
+  about.window.Unload();
+  controls.frmMain.Unload();
+}

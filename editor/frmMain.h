@@ -1,0 +1,80 @@
+// The main window: start-up, the main loop, and the commands of its menus.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "editor/frmAbout.h"
+#include "editor/main_controls.h"
+#include "editor/temporary_track.h"
+#include "platform/clock.h"
+#include "platform/shell.h"
+
+class frmMain {
+ public:
+  /// What the window needs from the platform; all of it outlives the window.
+  struct Services {
+    Clock& clock;
+    MessagePump& pump;
+    Shell& shell;
+  };
+
+  explicit frmMain(const Services& services);
+  ~frmMain();
+  frmMain(const frmMain&) = delete;
+  frmMain& operator=(const frmMain&) = delete;
+
+  /// Start-up, then the main loop; returns when the loop ends. False when a device failed.
+  bool Form_Load();
+  /// Start-up alone; false, after the device's message, when a device failed.
+  bool Start();
+  /// One pass of the main loop: a frame when more than 40 ms have passed since the last one began,
+  /// then one pump of window messages.
+  void Pass();
+  bool IsRunning() const { return Running_; }
+
+  /// Replaces the track by a new one of a single selected block.
+  void NewTrack();
+  void MovePlatforms();
+  /// The per-frame poll of held keys.
+  void ProcessKeyboard();
+
+  MainControls controls;
+  frmAbout about;
+
+ private:
+  // frmMain.cpp
+  void StartDocument();
+  void Frame();
+  void FrameSteps();
+  void EndAfterFailedStart();
+  void Shutdown();
+
+  // frmMain_events.cpp: wires controls to handlers
+  void ConnectEvents();
+
+  // frmMain_track.cpp: file, background, gravity, camera and help commands
+  void mnu_load_Click();
+  void ChooseBackdrop(size_t item);
+  void ClearBackgroundChecks();
+  void ChooseGravity(float gravity);
+  void CheckGravity(bool normal);
+  void VScroll1_Change();
+  void TrackReplaced();
+  void mnu_Shortcut_Click();
+
+  // frmMain_modes.cpp
+  void mnu_playmode_Click();
+  void mnu_editmode_Click();
+  void StartPlay();
+  void CheckMode(int32_t mode);
+  void ClearSelection();
+
+  Services services_;
+  TemporaryTrack temporaryTrack_;
+  bool Running_ = false;
+  int64_t CounterFrequency_ = 1;
+  int64_t LastFrameCount_ = 0;
+  int64_t NowCount_ = 0;
+  std::string lastFrameFailure_;
+};

@@ -1,0 +1,106 @@
+#include <algorithm>
+
+#include "editor/frmMain.h"
+#include "editor/selection.h"
+#include "level/backdrop.h"
+#include "level/globals.h"
+#include "platform/numbers.h"
+#include "platform/paths.h"
+#include "render/DirectX.h"
+
+namespace {
+
+constexpr int kEyeBehindTarget = 18;
+
+/// The one block of a new track.
+clsblock StartBlock() {
+  clsblock block;
+  block.scaleX(2);
+  block.scaleZ(2);
+  block.scaleY(1);
+  for (const char* face : {"A", "B", "C", "D"}) {
+    block.Texture(kDefaultTexture, face, Document.TextureDir);
+  }
+  return block;
+}
+
+}  // namespace
+
+void frmMain::NewTrack() {
+  // Made before anything is replaced: a missing texture must not cost the present track.
+  clsblock block = StartBlock();
+  Document.TrackLoaded = true;
+  Document.RampCount = Document.PlatformCount = Document.StarCount = -1;
+  Document.BlockCount = 0;
+  Document.Gravity = kNormalGravity;
+  Document.Blocks.clear();
+  Document.Blocks.push_back(std::move(block));
+
+  Document.SelectedIndex = 0;
+  Document.SelectedType = TypeBlock;
+  Document.SelectedPlane = 1;
+  Document.Blocks[0].SelectBlock();
+  Document.PlatformsPaused = false;
+  Document.ObjectSelected = true;
+
+  CheckGravity(true);
+  ClearBackgroundChecks();
+  controls.mnu_background1.Checked(true);
+  ShowBackdrop(kDefaultBackdrop);
+  Document.BackgroundName = kDefaultBackdrop;
+  controls.VScroll1.Value(controls.VScroll1.Maximum());
+  selection::ShowProperties();
+}
+
+void frmMain::mnu_load_Click() {
+  const FileIO::Outcome outcome = FileIO::OpenTrackDialog();
+  Document.EditorMode = EditMode;
+  CheckMode(EditMode);
+  // After a failed read the view stays where it was.
+  if (outcome != FileIO::Outcome::Failed) DirectX::ResetCamera();
+  CheckGravity(Document.Gravity == kNormalGravity);
+}
+
+void frmMain::ChooseBackdrop(size_t item) {
+  ClearBackgroundChecks();
+  ShowBackdrop(kBackdropFiles[item]);
+  controls.BackgroundItems()[item]->Checked(true);
+  Document.BackgroundName = kBackdropFiles[item];
+}
+
+void frmMain::ClearBackgroundChecks() {
+  for (MenuItem* item : controls.BackgroundItems()) item->Checked(false);
+}
+
+void frmMain::ChooseGravity(float gravity) {
+  Document.Gravity = gravity;
+  controls.frmMain.SetFocus();
+  CheckGravity(gravity == kNormalGravity);
+}
+
+void frmMain::CheckGravity(bool normal) {
+  controls.mnu_normal.Checked(normal);
+  controls.mnu_low.Checked(!normal);
+}
+
+void frmMain::VScroll1_Change() {
+  if (!Document.TrackLoaded) return;
+  const ScrollBar& bar = controls.VScroll1;
+  const int16_t depth = ToInteger(bar.Maximum() - bar.Value() - kEyeBehindTarget);
+  DirectX::CameraPosition.z = depth;
+  DirectX::CameraTarget.z = ToSingle(depth + kEyeBehindTarget);
+  DirectX::ApplyCamera();
+}
+
+void frmMain::TrackReplaced() {
+  ClearBackgroundChecks();
+  const auto* const found =
+      std::ranges::find(kBackdropTrackNames, Document.BackgroundName.Trimmed());
+  if (found != kBackdropTrackNames.end()) {
+    controls.BackgroundItems()[static_cast<size_t>(found - kBackdropTrackNames.begin())]->Checked(
+        true);
+  }
+  controls.VScroll1.Value(controls.VScroll1.Maximum());
+}
+
+void frmMain::mnu_Shortcut_Click() { services_.shell.Open(paths::InInstallFolder("\\readme.txt")); }

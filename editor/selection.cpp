@@ -1,0 +1,130 @@
+#include "editor/selection.h"
+
+#include "editor/main_controls.h"
+#include "level/globals.h"
+
+namespace selection {
+namespace {
+
+template <typename T>
+T& Selected(std::vector<T>& collection) {
+  return collection.at(static_cast<size_t>(Document.SelectedIndex));
+}
+
+/// Sizes by the axis that they run along, then the position.
+void ShowPlace(double width, double height, double depth, double x, double y, double z) {
+  MainControls& c = Controls();
+  c.UpDown1.Value(height);
+  c.UpDown2.Value(width);
+  c.UpDown3.Value(depth);
+  c.UpDownX.Value(x);
+  c.UpDownY.Value(y);
+  c.UpDownZ.Value(z);
+}
+
+template <typename T>
+void ShowSizesAndPlace(const T& object) {
+  ShowPlace(object.scaleX(), object.scaleY(), object.scaleZ(), object.Xpos(), object.Ypos(),
+            object.Zpos());
+}
+
+void ShowStretch(const BoxObject& box) {
+  Controls().Combo1.ListIndex(box.ScaleTextureTop());
+  Controls().Combo2.ListIndex(box.ScaleTextureSide());
+}
+
+void EnableStretch() {
+  Controls().Combo1.Enabled(true);
+  Controls().Combo2.Enabled(true);
+}
+
+void ShowBlock(clsblock& block) {
+  ShowSizesAndPlace(block);
+  block.SelectBlock();
+  if (block.changeactioncode() == clsblock::Normal) EnableStretch();
+  ShowStretch(block);
+}
+
+void ShowRamp(clsRamp& ramp) {
+  ShowSizesAndPlace(ramp);
+  ramp.SelectRamp();
+  Controls().cmd_ramp.Enabled(true);
+}
+
+void ShowPlatform(clsMovingPlatform& platform) {
+  MainControls& c = Controls();
+  ShowSizesAndPlace(platform);
+  platform.SelectBlock();
+  c.cmbo_Direction.ListIndex(platform.GetinitalMDir() - clsMovingPlatform::Left);
+  c.UpDown_distance.Value(platform.Mdist());
+  c.UpDown_speed.Value(platform.Mspeed());
+  c.txt_distance.Text(std::to_string(platform.Mdist()));
+  c.txt_speed.Text(std::to_string(platform.Mspeed()));
+  if (Document.PlatformsPaused) c.cmbo_Direction.Enabled(true);
+  c.Check_Loop.Checked(platform.MloopBack());
+  EnableStretch();
+  ShowStretch(platform);
+  c.Check_Loop.Enabled(true);
+}
+
+void ShowStar(clsStar& star) {
+  ShowPlace(1, 1, 1, star.Xpos(), star.Ypos(), star.Zpos());
+  star.selectstar();
+}
+
+void ShowSelected() {
+  switch (Document.SelectedType) {
+    case TypeBlock:
+      return ShowBlock(Selected(Document.Blocks));
+    case TypeRamp:
+      return ShowRamp(Selected(Document.Ramps));
+    case TypePlatform:
+      return ShowPlatform(Selected(Document.Platforms));
+    case TypeStar:
+      return ShowStar(Selected(Document.Stars));
+    default:
+      return;
+  }
+}
+
+}  // namespace
+
+void DeselectCurrent() {
+  if (!Document.ObjectSelected) return;
+  switch (Document.SelectedType) {
+    case TypeBlock:
+      return Selected(Document.Blocks).UnSelectBlock();
+    case TypeRamp:
+      return Selected(Document.Ramps).UnSelectramp();
+    case TypePlatform:
+      return Selected(Document.Platforms).UnSelectBlock();
+    case TypeStar:
+      return Selected(Document.Stars).unSelectStar();
+    default:
+      return;
+  }
+}
+
+void ShowProperties() {
+  MainControls& c = Controls();
+  for (Control* control : std::initializer_list<Control*>{&c.cmbo_Direction, &c.cmd_ramp, &c.Combo1,
+                                                          &c.Combo2, &c.Check_Loop}) {
+    control->Enabled(false);
+  }
+  if (Document.ObjectSelected) {
+    ShowSelected();
+  } else {
+    ShowPlace(1, 1, 1, 0, 0, 0);
+  }
+  const auto show = [](TextBox& box, const UpDown& value) {
+    box.Text(std::to_string(value.Value()));
+  };
+  show(c.txt_X, c.UpDownX);
+  show(c.txt_Y, c.UpDownY);
+  show(c.txt_Z, c.UpDownZ);
+  show(c.txt_height, c.UpDown1);
+  show(c.txt_width, c.UpDown2);
+  show(c.txt_depth, c.UpDown3);
+}
+
+}  // namespace selection

@@ -1,0 +1,118 @@
+#include "files/FileIO.h"
+
+#include "files/level_bytes.h"
+#include "files/safe_writer.h"
+#include "level/backdrop.h"
+#include "platform/dialogs.h"
+#include "platform/error.h"
+#include "platform/paths.h"
+
+namespace FileIO {
+namespace {
+
+constexpr const char* kDefaultExtension = "bin";
+
+dialogs::FileDialog TrackDialog(const char* title, const char* extension) {
+  return {title, paths::InInstallFolder("\\levels\\"), "Vorbilax Levels *.lvl", "*.lvl", extension};
+}
+
+/// Places the built track; nothing here can fail.
+void Replace(const LevelFile& level, BuiltTrack&& track) {
+  Document.BlockCount = static_cast<int32_t>(track.Blocks.size()) - 1;
+  Document.RampCount = static_cast<int32_t>(track.Ramps.size()) - 1;
+  Document.PlatformCount = static_cast<int32_t>(track.Platforms.size()) - 1;
+  Document.StarCount = static_cast<int32_t>(track.Stars.size()) - 1;
+  Document.Blocks = std::move(track.Blocks);
+  Document.Ramps = std::move(track.Ramps);
+  Document.Platforms = std::move(track.Platforms);
+  Document.Stars = std::move(track.Stars);
+  if (level.TrackRecords) Document.TrackRecords = *level.TrackRecords;
+  Document.TrackSettings = level.TrackSettings;
+  Document.Gravity = track.Gravity;
+  Document.BackgroundName = level.BackgroundName;
+  Document.TextureNames = level.TextureNames;
+  Document.TextureCount = static_cast<int16_t>(level.TextureNames.size() - 1);
+  ShowBackdrop(level.BackgroundName.Trimmed());
+  Document.TrackLoaded = true;
+  Document.PlatformsPaused = false;
+  Document.SelectedIndex = 0;
+  Document.SelectedType = TypeBlock;
+  Document.SelectedPlane = 1;
+}
+
+Result Failure(const std::string& path, const std::string& reason) {
+  return {path + ": " + reason, {}, 0};
+}
+
+Outcome ReportOutcome(const Result& result) {
+  if (result.Ok()) return Outcome::Done;
+  dialogs::ShowMessage(result.message);
+  return Outcome::Failed;
+}
+
+}  // namespace
+
+Result LevelBytes(std::string& bytes) {
+  if (Document.BlockCount < 0) return {kNoBlocksText, {}, 0};
+  try {
+    BuildTextureTable();
+    for (auto& name : Document.TrackRecords.RecordNames) name = "No Record";
+    bytes = SerializeLevel(DescribeDocument());
+    return {};
+  } catch (const std::overflow_error& failure) {
+    return {failure.what(), {}, 0};
+  }
+}
+
+Result WriteLevel(const std::string& path) {
+  std::string bytes;
+  if (Result result = LevelBytes(bytes); !result.Ok()) return result;
+  const std::string reason = WriteFileSafely(path, bytes);
+  return reason.empty() ? Result{} : Failure(path, reason);
+}
+
+Result ReadLevel(const std::string& path) {
+  std::string bytes;
+  const std::string reason = ReadWholeFile(path, bytes);
+  return reason.empty() ? ReadLevelBytes(bytes, path) : Failure(path, reason);
+}
+
+Result ReadLevelBytes(std::string_view bytes, const std::string& name) {
+  try {
+    const LevelFile level = ParseLevel(bytes);
+    BuiltTrack track = BuildTrack(level);
+    if (level.Version < kLevelFileVersion) dialogs::ShowMessage(kOldVersionText);
+    Replace(level, std::move(track));
+  } catch (const LevelFormatError& failure) {
+    return {name + ": " + failure.what(), failure.field(), failure.offset()};
+  } catch (const std::overflow_error&) {
+    return Failure(name, "a position or size is out of range");
+  } catch (const PlatformError& failure) {
+    return Failure(name, failure.what());
+  }
+  if (TrackReplaced) TrackReplaced();
+  return {};
+}
+
+Outcome SaveTrackDialog() {
+  const auto path = dialogs::SaveFile(TrackDialog("Save File", kDefaultExtension));
+  if (!path) return Outcome::Cancelled;
+  const Outcome outcome = ReportOutcome(WriteLevel(*path));
+  if (outcome == Outcome::Done) Document.CurrentFileName = *path;
+  return outcome;
+}
+
+Outcome OpenTrackDialog() {
+  const auto path = dialogs::OpenFile(TrackDialog("Open", ""));
+  if (!path) return Outcome::Cancelled;
+  const Outcome outcome = ReportOutcome(ReadLevel(*path));
+  if (outcome == Outcome::Done) Document.CurrentFileName = *path;
+  return outcome;
+}
+
+Outcome SaveTrack() {
+  if (Document.CurrentFileName.empty()) return SaveTrackDialog();
+  return ReportOutcome(WriteLevel(Document.CurrentFileName));
+}
+
+}  // namespace FileIO

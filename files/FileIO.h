@@ -1,0 +1,50 @@
+// Tracks to and from level files, and the dialogs that ask for a file.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "files/level_document.h"
+
+namespace FileIO {
+
+/// How a read or write ended. A failed read has changed nothing in memory, a failed write nothing
+/// on the disk.
+struct Result {
+  std::string message;  ///< why it failed, with the path; empty when it did not
+  std::string field;    ///< the field of the file that could not be read, if it was one
+  size_t offset = 0;    ///< and its byte offset
+  bool Ok() const { return message.empty(); }
+};
+
+/// Runs after every completed read, when the new track stands in the document.
+inline std::function<void()> TrackReplaced;
+
+inline constexpr const char* kOldVersionText =
+    "This track is an old version: When you save it will be converted";
+inline constexpr const char* kNoBlocksText = "A track needs at least one block.";
+
+/// The document's bytes as a level file; sets the record names to "No Record" as every save does.
+Result LevelBytes(std::string& bytes);
+/// Writes the document; shows no message.
+Result WriteLevel(const std::string& path);
+
+/// Replaces the document's track by the file's, all or nothing. Its one message is the notice for
+/// an old version.
+Result ReadLevel(const std::string& path);
+/// The same from bytes in memory; `name` stands for the path in the result's message.
+Result ReadLevelBytes(std::string_view bytes, const std::string& name);
+
+/// How a file dialog and the command behind it ended; a failure has been shown to the user.
+enum class Outcome { Cancelled, Done, Failed };
+
+/// Asks for a file and writes the track to it.
+Outcome SaveTrackDialog();
+/// Asks for a file and reads it. Mode and check marks are the caller's.
+Outcome OpenTrackDialog();
+/// Writes to the current file; asks for one when there is none.
+Outcome SaveTrack();
+
+}  // namespace FileIO

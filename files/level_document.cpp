@@ -1,0 +1,223 @@
+#include "files/level_document.h"
+
+#include <unordered_map>
+#include <unordered_set>
+
+#include "platform/numbers.h"
+#include "platform/paths.h"
+
+namespace {
+
+/// The table's names as they can be loaded.
+std::vector<std::string> ResolveTextures(const std::vector<std::string>& names) {
+  const auto files = paths::FileNames(Document.TextureDir);
+  const std::unordered_set<std::string> existing(files.begin(), files.end());
+  std::vector<std::string> resolved;
+  for (const std::string& name : names) {
+    resolved.push_back(existing.contains(name) ? name : kDefaultTexture);
+  }
+  return resolved;
+}
+
+class Builder {
+ public:
+  explicit Builder(const std::vector<std::string>& names)
+      : textures_(ResolveTextures(names)), starModel_(paths::InInstallFolder("\\models\\orb.x")) {}
+
+  void Fill(clsblock& block, const BlockRecord& record) const {
+    block.create(0, 0, 0, 1, 1, 1);
+    block.Xpos(record.Xpos);
+    block.Ypos(record.Ypos);
+    block.Zpos(ToLong(record.Zpos));
+    block.ScaleTextureSide(record.ScaleTextureSide);
+    block.ScaleTextureTop(record.ScaleTextureTop);
+    block.scaleX(record.scaleX);
+    block.scaleY(record.scaleY);
+    block.scaleZ(record.scaleZ);
+    LoadTextures(block, record.Textures);
+    block.changeactioncode(record.changeactioncode);
+  }
+
+  void Fill(clsRamp& ramp, const RampRecord& record) const {
+    ramp.create(0, 0, 0);
+    ramp.Xpos(ToLong(record.Xpos));
+    ramp.Ypos(ToLong(record.Ypos));
+    ramp.Zpos(ToLong(record.Zpos));
+    // Four quarter turns are none.
+    for (int turn = 0; turn < record.Rotation % 4; ++turn) ramp.rotate();
+    ramp.scaleX(ToInteger(record.scaleX));
+    ramp.scaleY(ToInteger(record.scaleY));
+    ramp.scaleZ(ToInteger(record.scaleZ));
+    LoadTextures(ramp, record.Textures);
+  }
+
+  void Fill(clsMovingPlatform& platform, const PlatformRecord& record) const {
+    platform.create(0, 0, 0);
+    platform.Xpos(record.Box.Xpos);
+    platform.Ypos(record.Box.Ypos);
+    platform.Zpos(record.Box.Zpos);
+    platform.scaleX(record.Box.scaleX);
+    platform.scaleY(record.Box.scaleY);
+    platform.scaleZ(record.Box.scaleZ);
+    platform.changeactioncode(record.Box.changeactioncode);
+    platform.Mdir(record.StartingDir);
+    platform.Mspeed(record.Mspeed);
+    platform.Mdist(record.Mdist);
+    platform.MloopBack(record.MloopBack != 0);
+    platform.ScaleTextureSide(record.Box.ScaleTextureSide);
+    platform.ScaleTextureTop(record.Box.ScaleTextureTop);
+    LoadTextures(platform, record.Box.Textures);
+  }
+
+  void Fill(clsStar& star, const StarRecord& record) const {
+    star.load(starModel_);
+    star.Xpos(ToLong(record.Xpos));
+    star.Ypos(ToLong(record.Ypos));
+    star.Zpos(ToLong(record.Zpos));
+  }
+
+  template <typename Object, typename Record>
+  std::vector<Object> Build(const std::vector<Record>& records) const {
+    std::vector<Object> objects(records.size());
+    for (size_t i = 0; i < records.size(); ++i) Fill(objects[i], records[i]);
+    return objects;
+  }
+
+ private:
+  template <typename Object, size_t N>
+  void LoadTextures(Object& object, const std::array<int16_t, N>& indices) const {
+    for (size_t face = 0; face < N; ++face) {
+      object.Texture(textures_.at(static_cast<size_t>(indices[face])),
+                     std::string(1, static_cast<char>('A' + face)), Document.TextureDir);
+    }
+  }
+
+  std::vector<std::string> textures_;
+  std::string starModel_;
+};
+
+std::array<std::string, 4> FaceNames(const BoxObject& box) {
+  return {box.GetTextureA(), box.GetTextureB(), box.GetTextureC(), box.GetTextureD()};
+}
+
+std::array<std::string, 2> FaceNames(const clsRamp& ramp) {
+  return {ramp.GetTextureA(), ramp.GetTextureB()};
+}
+
+/// Index of each name of the document's table.
+using TableIndex = std::unordered_map<std::string, int16_t>;
+
+template <typename Object>
+void AddNames(TableIndex& index, std::span<Object> objects) {
+  for (const Object& object : objects) {
+    for (const std::string& name : FaceNames(object)) {
+      if (index.contains(name)) continue;
+      Document.TextureCount = ToInteger(Document.TextureCount + 1.0);
+      index.emplace(name, Document.TextureCount);
+      Document.TextureNames.resize(static_cast<size_t>(Document.TextureCount) + 1);
+      Document.TextureNames.back() = name;
+    }
+  }
+}
+
+template <typename Object, size_t N>
+void Describe(const Object& object, const TableIndex& index, std::array<int16_t, N>& textures) {
+  const auto names = FaceNames(object);
+  for (size_t face = 0; face < N; ++face) textures[face] = index.at(names[face]);
+}
+
+template <typename Object>
+BlockRecord DescribeBox(const Object& box, const TableIndex& index) {
+  BlockRecord record;
+  record.scaleX = box.scaleX();
+  record.scaleY = box.scaleY();
+  record.scaleZ = box.scaleZ();
+  Describe(box, index, record.Textures);
+  record.ScaleTextureTop = box.ScaleTextureTop();
+  record.ScaleTextureSide = box.ScaleTextureSide();
+  record.changeactioncode = box.changeactioncode();
+  return record;
+}
+
+BlockRecord DescribeBlock(const clsblock& block, const TableIndex& index) {
+  BlockRecord record = DescribeBox(block, index);
+  record.Xpos = block.Xpos();
+  record.Ypos = block.Ypos();
+  record.Zpos = ToSingle(block.Zpos());
+  return record;
+}
+
+/// Where and how the platform starts, wherever it is now.
+PlatformRecord DescribePlatform(const clsMovingPlatform& platform, const TableIndex& index) {
+  PlatformRecord record;
+  record.Box = DescribeBox(platform, index);
+  record.Box.Xpos = platform.GetInitalXpos();
+  record.Box.Ypos = platform.GetInitalYpos();
+  record.Box.Zpos = platform.GetInitalZpos();
+  record.Mspeed = platform.Mspeed();
+  record.StartingDir = platform.GetinitalMDir();
+  record.Mdist = platform.Mdist();
+  record.MloopBack = platform.MloopBack() ? 255 : 0;
+  return record;
+}
+
+RampRecord DescribeRamp(const clsRamp& ramp, const TableIndex& index) {
+  RampRecord record{ToSingle(ramp.Xpos()),
+                    ToSingle(ramp.Ypos()),
+                    ToSingle(ramp.Zpos()),
+                    static_cast<float>(ramp.scaleX()),
+                    static_cast<float>(ramp.scaleY()),
+                    static_cast<float>(ramp.scaleZ()),
+                    {},
+                    ramp.GetRotation()};
+  Describe(ramp, index, record.Textures);
+  return record;
+}
+
+}  // namespace
+
+BuiltTrack BuildTrack(const LevelFile& level) {
+  const Builder builder(level.TextureNames);
+  BuiltTrack track;
+  track.Blocks = builder.Build<clsblock>(level.Blocks);
+  track.Ramps = builder.Build<clsRamp>(level.Ramps);
+  track.Platforms = builder.Build<clsMovingPlatform>(level.Platforms);
+  track.Stars = builder.Build<clsStar>(level.Stars);
+  track.Gravity = ToSingle(level.StoredGravity / 1000.0 * 2.5);
+  return track;
+}
+
+void BuildTextureTable() {
+  Document.TextureCount = -1;
+  Document.TextureNames.assign(1, {});
+  TableIndex index;
+  AddNames(index, Live(Document.Blocks, Document.BlockCount));
+  AddNames(index, Live(Document.Platforms, Document.PlatformCount));
+  AddNames(index, Live(Document.Ramps, Document.RampCount));
+}
+
+LevelFile DescribeDocument() {
+  TableIndex index;
+  for (int32_t i = 0; i <= Document.TextureCount; ++i) {
+    index.emplace(Document.TextureNames[static_cast<size_t>(i)], static_cast<int16_t>(i));
+  }
+  LevelFile level;
+  level.TrackRecords = Document.TrackRecords;
+  level.TextureNames = Document.TextureNames;
+  level.BackgroundName = Document.BackgroundName;
+  for (const clsblock& block : Live(Document.Blocks, Document.BlockCount)) {
+    level.Blocks.push_back(DescribeBlock(block, index));
+  }
+  for (const clsMovingPlatform& platform : Live(Document.Platforms, Document.PlatformCount)) {
+    level.Platforms.push_back(DescribePlatform(platform, index));
+  }
+  for (const clsRamp& ramp : Live(Document.Ramps, Document.RampCount)) {
+    level.Ramps.push_back(DescribeRamp(ramp, index));
+  }
+  for (const clsStar& star : Live(Document.Stars, Document.StarCount)) {
+    level.Stars.push_back({ToSingle(star.Xpos()), ToSingle(star.Ypos()), ToSingle(star.Zpos())});
+  }
+  level.StoredGravity = ToSingle(Document.Gravity / 2.5 * 1000.0);
+  level.TrackSettings = Document.TrackSettings;
+  return level;
+}

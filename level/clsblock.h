@@ -1,0 +1,67 @@
+// The box-shaped piece of track: the plain block and every special block.
+#pragma once
+
+#include "level/box_object.h"
+
+class clsblock : public BoxObject {
+ public:
+  /// Kind codes.
+  enum : uint8_t {
+    Normal = 0,
+    WinLevel = 1,
+    JumpPad = 2,
+    Ice = 3,
+    FallingBlock = 4,
+    TurboPad = 5,
+    InstantKill = 6,
+    Building = 10
+  };
+
+  clsblock() : BoxObject(kKind) {}
+
+  /// Smallest corner and sizes, unchecked; the depth becomes scaleZ - 0.1. Loads no textures.
+  void create(float CoordX, float CoordY, float CoordZ, float scaleX, float scaleY, float scaleZ);
+
+  // Positions in world units. The planes follow a move at the next size, stretch or selection
+  // change or frame of motion.
+  float Xpos() const { return position_.x; }
+  void Xpos(float NewVal) { position_.x = NewVal; }
+  float Ypos() const { return position_.y; }
+  /// Only above -1 is stored.
+  void Ypos(float NewVal);
+  /// The whole number nearest to the stored depth.
+  int32_t Zpos() const;
+  /// Only 0 or more is stored.
+  void Zpos(int32_t NewVal);
+
+  /// Downward displacement of the last frame of a fall or bounce.
+  float fallvel() const { return fallvel_; }
+
+  /// Loads TextureDir & Name onto the face with this letter; any other letter does nothing. Throws
+  /// PlatformError, leaving the face as it was, when the file cannot be loaded.
+  void Texture(std::string Name, const std::string& face, const std::string& TextureDir);
+  /// Puts the front texture on the device's stage 0.
+  void SETTEXTURE() const;
+  /// Moves every animated face to its next frame.
+  void UpdateAnimatedTexture();
+
+  /// Starts the jump pad's bounce: 22 frames up by 1 and back.
+  void Bounce();
+  /// Starts a fall that never ends.
+  void Fall() { Falling_ = true; }
+  /// Draws the block, then advances fall and bounce by one frame.
+  void draw();
+
+ private:
+  static const Kind kKind;
+
+  void AdvanceFall();
+  void AdvanceBounce();
+
+  std::array<bool, 4> AnimatedFaces_{};
+  bool Falling_ = false;
+  bool Bouncing_ = false;
+  float BouncePhase_ = 0;
+  float BounceBase_ = 0;
+  float fallvel_ = 0;
+};

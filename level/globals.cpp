@@ -1,0 +1,5 @@
+#include "level/globals.h"
+
+LevelDocument Document;
+
+TrackValues& Track() { return Document; }

@@ -1,0 +1,40 @@
+// The wedge in its four rotations: vertices, face corners and planes as data.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+#include "level/collision_plane.h"
+#include "platform/values.h"
+
+namespace ramp {
+
+using Vertices = std::array<Vertex, 18>;
+using Corners = std::array<Vector3, 4>;
+
+inline constexpr int kPlaneCount = 6;
+inline constexpr uint32_t kSlopeColour = 0xFFFFFF;
+inline constexpr uint32_t kSideColour = 0x9A9A9A;
+inline constexpr uint32_t kSelectedColour = 0x888888;
+inline constexpr size_t kFirstSideVertex = 6;  ///< vertices before it are the slope
+
+/// The unit wedge; textures repeat once per world unit, so the coordinates carry the sizes.
+Vertices WedgeVertices(uint8_t rotation, const Vector3& size);
+
+/// Planes 1 to 6 (index 0 is plane 1): sides at low and high x, slope, side at low z, bottom, and
+/// the horizontal plane of the high edge. A side that the rotation lacks is all zero.
+std::array<CollisionPlane, 6> Planes(uint8_t rotation, const Vector3& position,
+                                     const Vector3& size);
+
+/// Corners for the point test; a triangle repeats its first corner, a missing face is all zero.
+/// Plane 6 is a strip 0.8 deep beyond the high edge.
+Corners FaceCorners(uint8_t rotation, const Vector3& position, const Vector3& size,
+                    int planenumber);
+
+/// The boxes that the shadow tests: the whole wedge for the slope, the bottom for plane 5, one
+/// upright face for plane 4 (by rotation), and the empty box at the origin for the others.
+void PlaneBounds(uint8_t rotation, const Vector3& position, const Vector3& size, int planenumber,
+                 Vector3& greatest, Vector3& smallest);
+
+}  // namespace ramp

@@ -1,0 +1,187 @@
+#include "platform/device.h"
+
+#include <bit>
+
+#include "platform/d3dx.h"
+
+namespace {
+
+uint32_t VerticesOf(Primitive primitive, uint32_t count) {
+  switch (primitive) {
+    case Primitive::PointList:
+      return count;
+    case Primitive::TriangleList:
+      return 3 * count;
+    case Primitive::TriangleStrip:
+      return count + 2;
+  }
+  return 0;
+}
+
+}  // namespace
+
+Device::Device(std::unique_ptr<Executor> executor)
+    : executor_(std::move(executor)),
+      world_(d3dx::Identity()),
+      view_(d3dx::Identity()),
+      projection_(d3dx::Identity()) {}
+
+void Device::Clear(uint32_t colour, float depth) {
+  Command command;
+  command.kind = Command::Kind::Clear;
+  command.colour = colour;
+  command.depth = depth;
+  frame_.commands.push_back(command);
+}
+
+void Device::BeginScene() { inScene_ = true; }
+
+void Device::EndScene() {
+  if (!inScene_) throw PlatformError("EndScene without BeginScene");
+  inScene_ = false;
+}
+
+void Device::Present() {
+  if (executor_) executor_->Execute(frame_);
+  frame_.commands.clear();
+  frame_.worlds.clear();
+  frame_.cameras.clear();
+  frame_.states.clear();
+  frame_.resources.clear();
+  worldChanged_ = cameraChanged_ = statesChanged_ = true;
+  streamKept_ = textureKept_ = false;
+}
+
+void Device::SetRenderState(RenderState state, bool on) {
+  switch (state) {
+    case RenderState::Lighting:
+      states_.lighting = on;
+      break;
+    case RenderState::DepthTest:
+      states_.depthTest = on;
+      break;
+    case RenderState::DepthWrite:
+      states_.depthWrite = on;
+      break;
+    case RenderState::AlphaBlend:
+      states_.alphaBlend = on;
+      break;
+    case RenderState::MultisampleAntialias:
+      states_.multisample = on;
+      break;
+    case RenderState::PointSprite:
+      states_.pointSprites = on;
+      break;
+    case RenderState::PointScale:
+      states_.pointScaling = on;
+      break;
+  }
+  statesChanged_ = true;
+}
+
+void Device::SetBlend(BlendState state, Blend blend) {
+  (state == BlendState::Source ? states_.sourceBlend : states_.destinationBlend) = blend;
+  statesChanged_ = true;
+}
+
+void Device::SetPointSize(int32_t floatBits) {
+  states_.pointSize = std::bit_cast<float>(floatBits);
+  statesChanged_ = true;
+}
+
+void Device::SetTextureStageState(StageState state, Filter filter) {
+  (state == StageState::MagFilter ? states_.magnify : states_.minify) = filter;
+  statesChanged_ = true;
+}
+
+void Device::SetTransform(Transform transform, const Matrix4& matrix) {
+  switch (transform) {
+    case Transform::World:
+      world_ = matrix;
+      worldChanged_ = true;
+      return;
+    case Transform::View:
+      view_ = matrix;
+      break;
+    case Transform::Projection:
+      projection_ = matrix;
+      break;
+  }
+  cameraChanged_ = true;
+}
+
+const Matrix4& Device::GetTransform(Transform transform) const {
+  switch (transform) {
+    case Transform::View:
+      return view_;
+    case Transform::Projection:
+      return projection_;
+    case Transform::World:
+      break;
+  }
+  return world_;
+}
+
+void Device::SetTexture(TexturePtr texture) {
+  if (texture == texture_) return;
+  texture_ = std::move(texture);
+  textureKept_ = false;
+}
+
+VertexBufferPtr Device::CreateVertexBuffer(std::span<const Vertex> vertices) const {
+  return std::make_shared<VertexBufferObject>(vertices);
+}
+
+VertexBufferPtr Device::CreateVertexBuffer(std::span<const ScreenVertex> vertices) const {
+  return std::make_shared<VertexBufferObject>(vertices);
+}
+
+void Device::SetStreamSource(VertexBufferPtr buffer, size_t stride) {
+  if (buffer && stride != static_cast<size_t>(buffer->Format())) {
+    throw PlatformError("stream stride differs from the buffer's vertex");
+  }
+  stream_ = std::move(buffer);
+  streamKept_ = false;
+}
+
+void Device::DrawPrimitive(Primitive primitive, uint32_t first, uint32_t primitiveCount) {
+  const uint32_t count = VerticesOf(primitive, primitiveCount);
+  if (!stream_) throw PlatformError("draw without a vertex buffer");
+  if (stream_->Format() != format_ || first + count > stream_->VertexCount()) {
+    throw PlatformError("draw past the end of the vertex buffer");
+  }
+  if (!streamKept_) frame_.resources.push_back(stream_);
+  streamKept_ = true;
+  Record(primitive, stream_, first, count);
+}
+
+void Device::DrawPrimitiveUP(std::span<const PointVertex> points) {
+  const auto buffer = std::make_shared<VertexBufferObject>(points);
+  frame_.resources.push_back(buffer);
+  Record(Primitive::PointList, buffer, 0, static_cast<uint32_t>(points.size()));
+}
+
+void Device::Record(Primitive primitive, const VertexBufferPtr& buffer, uint32_t first,
+                    uint32_t count) {
+  if (!inScene_) throw PlatformError("draw outside a scene");
+  if (worldChanged_) frame_.worlds.push_back(world_);
+  if (cameraChanged_) frame_.cameras.push_back({view_, projection_});
+  if (statesChanged_ && (frame_.states.empty() || frame_.states.back() != states_)) {
+    frame_.states.push_back(states_);
+  }
+  worldChanged_ = cameraChanged_ = statesChanged_ = false;
+  if (!textureKept_ && texture_) frame_.resources.push_back(texture_);
+  textureKept_ = true;
+
+  Command command;
+  command.primitive = primitive;
+  command.format = buffer->Format();
+  command.firstVertex = first;
+  command.vertexCount = count;
+  command.buffer = buffer.get();
+  command.texture = texture_.get();
+  command.world = static_cast<uint32_t>(frame_.worlds.size() - 1);
+  command.camera = static_cast<uint32_t>(frame_.cameras.size() - 1);
+  command.states = static_cast<uint32_t>(frame_.states.size() - 1);
+  frame_.commands.push_back(command);
+}

@@ -1,0 +1,77 @@
+// The fixed-function 3D device. Its calls only record; Present hands the frame to an executor.
+#pragma once
+
+#include <memory>
+#include <span>
+
+#include "platform/commands.h"
+#include "platform/error.h"
+
+enum class Transform : uint8_t { World, View, Projection };
+enum class RenderState : uint8_t {
+  Lighting,
+  DepthTest,
+  DepthWrite,
+  AlphaBlend,
+  MultisampleAntialias,
+  PointSprite,
+  PointScale
+};
+enum class BlendState : uint8_t { Source, Destination };
+enum class StageState : uint8_t { MagFilter, MinFilter };
+
+/// Lighting is never on, so a material changes nothing visible; it is kept for what reads it back.
+struct Material {
+  ColourValue diffuse, ambient;
+  bool operator==(const Material&) const = default;
+};
+
+class Device {
+ public:
+  /// `executor` draws what Present hands over; null drops it.
+  explicit Device(std::unique_ptr<Executor> executor);
+
+  void Clear(uint32_t colour, float depth);
+  void BeginScene();
+  /// Throws PlatformError when no scene was begun.
+  void EndScene();
+  void Present();
+
+  void SetRenderState(RenderState state, bool on);
+  void SetBlend(BlendState state, Blend blend);
+  /// The size arrives as the bits of a float, as every float-valued state does.
+  void SetPointSize(int32_t floatBits);
+  void SetTextureStageState(StageState state, Filter filter);
+  void SetTransform(Transform transform, const Matrix4& matrix);
+  const Matrix4& GetTransform(Transform transform) const;
+  void SetVertexFormat(VertexFormat format) { format_ = format; }
+  void SetTexture(TexturePtr texture);
+  void SetMaterial(const Material& material) { material_ = material; }
+
+  VertexBufferPtr CreateVertexBuffer(std::span<const Vertex> vertices) const;
+  VertexBufferPtr CreateVertexBuffer(std::span<const ScreenVertex> vertices) const;
+  void SetStreamSource(VertexBufferPtr buffer, size_t stride);
+  /// Draws `primitiveCount` points or triangles of stream 0 from vertex `first`. Throws
+  /// PlatformError when the stream does not hold them or is of another vertex format.
+  void DrawPrimitive(Primitive primitive, uint32_t first, uint32_t primitiveCount);
+  /// Draws from memory; the points are copied.
+  void DrawPrimitiveUP(std::span<const PointVertex> points);
+
+  const DeviceStates& States() const { return states_; }
+  const Material& CurrentMaterial() const { return material_; }
+
+ private:
+  void Record(Primitive primitive, const VertexBufferPtr& buffer, uint32_t first, uint32_t count);
+
+  std::unique_ptr<Executor> executor_;
+  CommandList frame_;
+  DeviceStates states_;
+  Material material_;
+  Matrix4 world_, view_, projection_;
+  VertexFormat format_ = VertexFormat::World;
+  TexturePtr texture_;
+  VertexBufferPtr stream_;
+  bool worldChanged_ = true, cameraChanged_ = true, statesChanged_ = true;
+  bool streamKept_ = false, textureKept_ = false;
+  bool inScene_ = false;
+};

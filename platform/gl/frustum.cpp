@@ -1,0 +1,59 @@
+#include "platform/gl/frustum.h"
+
+#include <bit>
+
+namespace gl {
+namespace {
+
+// Generous against rounding here and in the shader: 32 units in the last place of the largest term.
+constexpr float kSlack = 4e-6F;
+
+using Int4 = int32_t __attribute__((vector_size(16)));
+
+bool AnySet(Int4 lanes) {
+  const auto halves = std::bit_cast<std::array<uint64_t, 2>>(lanes);
+  return (halves[0] | halves[1]) != 0;
+}
+
+}  // namespace
+
+Frustum::Frustum(const UniformMatrix& toClip) {
+  // Lanes: left, right, bottom, top; near, far, and the last two again.
+  constexpr std::array<std::array<float, 2>, 6> kXYSigns = {
+      {{1, 0}, {-1, 0}, {0, 1}, {0, -1}, {0, 0}, {0, 0}}};
+  constexpr std::array<float, 6> kZSigns = {0, 0, 0, 0, 1, -1}, kWSigns = {1, 1, 1, 1, 0, 1};
+  for (size_t lane = 0; lane < 8; ++lane) {
+    const size_t plane = lane < 6 ? lane : lane - 2;
+    const auto component = [&](size_t row) {
+      return kXYSigns[plane][0] * toClip[4 * row] + kXYSigns[plane][1] * toClip[4 * row + 1] +
+             kZSigns[plane] * toClip[4 * row + 2] + kWSigns[plane] * toClip[4 * row + 3];
+    };
+    FourPlanes& four = planes_[lane / 4];
+    four.nx[lane % 4] = component(0);
+    four.ny[lane % 4] = component(1);
+    four.nz[lane % 4] = component(2);
+    four.d[lane % 4] = component(3);
+  }
+}
+
+bool Frustum::FourPlanes::AnyBehind(Float4 centre, Float4 reach) const {
+  const Float4 x = Splat(centre[0]), y = Splat(centre[1]), z = Splat(centre[2]);
+  const Float4 ax = Abs(nx), ay = Abs(ny), az = Abs(nz);
+  const Float4 distance = nx * x + ny * y + nz * z + d;
+  const Float4 radius = ax * Splat(reach[0]) + ay * Splat(reach[1]) + az * Splat(reach[2]);
+  const Float4 size = ax * Abs(x) + ay * Abs(y) + az * Abs(z) + Abs(d) + radius;
+  return AnySet(distance + radius + Splat(kSlack) * size < 0);
+}
+
+bool Frustum::MaySee(const VertexBufferObject& buffer, const Matrix4& world) const {
+  const Vector3 &low = buffer.Smallest(), &high = buffer.Greatest();
+  const Rows rows(world);
+  const Float4 centre = rows.Place(0.5F * (low.x + high.x), 0.5F * (low.y + high.y),
+                                   0.5F * (low.z + high.z));
+  const Float4 reach = Splat(0.5F * (high.x - low.x)) * Abs(rows.rows[0]) +
+                       Splat(0.5F * (high.y - low.y)) * Abs(rows.rows[1]) +
+                       Splat(0.5F * (high.z - low.z)) * Abs(rows.rows[2]);
+  return !planes_[0].AnyBehind(centre, reach) && !planes_[1].AnyBehind(centre, reach);
+}
+
+}  // namespace gl

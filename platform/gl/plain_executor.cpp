@@ -1,0 +1,54 @@
+#include "platform/gl/plain_executor.h"
+
+#include "platform/gl/texture_upload.h"
+
+namespace gl {
+namespace {
+
+GLenum ModeName(Primitive primitive) {
+  switch (primitive) {
+    case Primitive::PointList:
+      return GL_POINTS;
+    case Primitive::TriangleList:
+      return GL_TRIANGLES;
+    case Primitive::TriangleStrip:
+      return GL_TRIANGLE_STRIP;
+  }
+  return GL_TRIANGLES;
+}
+
+}  // namespace
+
+void PlainExecutor::Execute(const CommandList& frame) {
+  ++frame_;
+  std::erase_if(textures_, [this](const auto& item) {
+    return item.second.lastFrame + kFramesKept < frame_;
+  });
+  pipeline_.BeginFrame(frame);
+  stream_.Bind();
+  for (const Command& command : frame.commands) {
+    if (command.kind == Command::Kind::Clear) {
+      pipeline_.Clear(command);
+    } else {
+      Draw(command, frame.worlds[command.world]);
+    }
+  }
+}
+
+void PlainExecutor::Draw(const Command& draw, const Matrix4& world) {
+  pipeline_.Prepare(ModeOf(draw));
+  if (draw.texture != nullptr) Bind(*draw.texture);
+  vertices_.resize(draw.vertexCount);
+  PlaceVertices(draw, world, draw.texture != nullptr ? 0 : -1, vertices_.data());
+  stream_.Draw(ModeName(draw.primitive), vertices_);
+}
+
+void PlainExecutor::Bind(const TextureObject& texture) {
+  const auto [item, isNew] = textures_.try_emplace(texture.Id());
+  StoredTexture& stored = item->second;
+  stored.lastFrame = frame_;
+  glBindTexture(GL_TEXTURE_2D, stored.name.Name());
+  if (isNew) UploadTexture(texture.Level(0));
+}
+
+}  // namespace gl

@@ -1,0 +1,34 @@
+// One OpenGL draw per recorded draw: slow, simple, the oracle for the batched scheme.
+#pragma once
+
+#include <unordered_map>
+
+#include "platform/gl/pipeline.h"
+#include "platform/gl/vertex_stream.h"
+
+namespace gl {
+
+class PlainExecutor : public PictureExecutor {
+ public:
+  /// Throws PlatformError.
+  explicit PlainExecutor(const TargetSettings& settings) : pipeline_(settings, Sampling::Single) {}
+
+  void Execute(const CommandList& frame) override;
+  Image ReadPicture() override { return pipeline_.ReadPicture(); }
+
+ private:
+  struct StoredTexture {
+    TextureName name;
+    uint64_t lastFrame = 0;
+  };
+  void Draw(const Command& draw, const Matrix4& world);
+  void Bind(const TextureObject& texture);
+
+  Pipeline pipeline_;
+  VertexStream stream_;
+  std::unordered_map<uint64_t, StoredTexture> textures_;  // by TextureObject::Id
+  std::vector<StreamVertex> vertices_;
+  uint64_t frame_ = 0;
+};
+
+}  // namespace gl

@@ -1,0 +1,135 @@
+#include "platform/gl/program.h"
+
+#include "platform/error.h"
+
+namespace gl {
+namespace {
+
+// A negative layer means: no texture.
+constexpr const char* kVertexText = R"(
+layout(location = 0) in vec3 position;
+layout(location = 1) in vec4 colour;
+layout(location = 2) in vec2 texel;
+layout(location = 3) in int layer;
+uniform mat4 toClip;
+out vec4 passedColour;
+out vec2 passedTexel;
+flat out int passedLayer;
+#ifdef POINTS
+uniform mat4 toEye;
+uniform vec4 sizing;
+uniform vec2 sizeRange;
+#endif
+void main() {
+  vec4 clip = toClip * vec4(position, 1.0);
+  gl_Position = vec4(clip.xy, 2.0 * clip.z - clip.w, clip.w);  // depth 0..1 to -1..1
+  passedColour = colour;
+  passedTexel = texel;
+  passedLayer = layer;
+#ifdef POINTS
+  float d = length((toEye * vec4(position, 1.0)).xyz);
+  float divisor = max(sizing.y + d * (sizing.z + d * sizing.w), 1e-12);
+  gl_PointSize = clamp(sizing.x / sqrt(divisor), sizeRange.x, sizeRange.y);
+#endif
+}
+)";
+
+constexpr const char* kFragmentText = R"(
+in vec4 passedColour;
+in vec2 passedTexel;
+flat in int passedLayer;
+out vec4 result;
+#ifdef ARRAY
+uniform sampler2DArray picture;
+#else
+uniform sampler2D picture;
+#endif
+#ifdef POINTS
+uniform bool sprites;
+#endif
+void main() {
+  vec2 place = passedTexel;
+#ifdef POINTS
+  if (sprites) place = gl_PointCoord;
+#endif
+#ifdef ARRAY
+  vec4 sampled = texture(picture, vec3(place, float(max(passedLayer, 0))));
+#else
+  vec4 sampled = texture(picture, place);
+#endif
+  result = passedLayer < 0 ? passedColour : vec4(sampled.rgb * passedColour.rgb, sampled.a);
+}
+)";
+
+template <typename GetLog>
+std::string LogOf(GetLog getLog, GLuint name) {
+  std::array<char, 1024> text{};
+  getLog(name, static_cast<GLsizei>(text.size()), nullptr, text.data());
+  return text.data();
+}
+
+GLuint Compile(GLenum stage, Sampling sampling, Shape shape, const char* text) {
+  const std::array<const char*, 4> parts = {
+      "#version 330 core\n", sampling == Sampling::Array ? "#define ARRAY\n" : "",
+      shape == Shape::Points ? "#define POINTS\n" : "", text};
+  const GLuint shader = glCreateShader(stage);
+  glShaderSource(shader, static_cast<GLsizei>(parts.size()), parts.data(), nullptr);
+  glCompileShader(shader);
+  GLint fine = GL_FALSE;
+  glGetShaderiv(shader, GL_COMPILE_STATUS, &fine);
+  if (fine == GL_TRUE) return shader;
+  const std::string log = LogOf(glGetShaderInfoLog, shader);
+  glDeleteShader(shader);
+  throw PlatformError("shader: " + log);
+}
+
+GLuint Link(Sampling sampling, Shape shape) {
+  const GLuint program = glCreateProgram();
+  const GLuint vertex = Compile(GL_VERTEX_SHADER, sampling, shape, kVertexText);
+  const GLuint fragment = Compile(GL_FRAGMENT_SHADER, sampling, shape, kFragmentText);
+  for (const GLuint shader : {vertex, fragment}) {
+    glAttachShader(program, shader);
+    glDeleteShader(shader);
+  }
+  glLinkProgram(program);
+  GLint fine = GL_FALSE;
+  glGetProgramiv(program, GL_LINK_STATUS, &fine);
+  if (fine == GL_TRUE) return program;
+  const std::string log = LogOf(glGetProgramInfoLog, program);
+  glDeleteProgram(program);
+  throw PlatformError("shader program: " + log);
+}
+
+}  // namespace
+
+Program::Program(Sampling sampling, Shape shape)
+    : name_(Link(sampling, shape)),
+      toClip_(glGetUniformLocation(name_, "toClip")),
+      toEye_(glGetUniformLocation(name_, "toEye")),
+      sizing_(glGetUniformLocation(name_, "sizing")),
+      sprites_(glGetUniformLocation(name_, "sprites")) {
+  std::array<GLfloat, 2> range{};
+  glGetFloatv(GL_POINT_SIZE_RANGE, range.data());
+  glUseProgram(name_);
+  glUniform1i(glGetUniformLocation(name_, "picture"), 0);
+  glUniform2f(glGetUniformLocation(name_, "sizeRange"), range[0], range[1]);
+}
+
+Program::~Program() { glDeleteProgram(name_); }
+
+void Program::Use() const { glUseProgram(name_); }
+
+void Program::ToClip(const UniformMatrix& matrix) const {
+  glUniformMatrix4fv(toClip_, 1, GL_FALSE, matrix.data());
+}
+
+void Program::ToEye(const UniformMatrix& matrix) const {
+  glUniformMatrix4fv(toEye_, 1, GL_FALSE, matrix.data());
+}
+
+void Program::Points(const PointSizing& sizing, bool sprites) const {
+  glUniform4f(sizing_, sizing.base, sizing.a, sizing.b, sizing.c);
+  glUniform1i(sprites_, sprites ? 1 : 0);
+}
+
+}  // namespace gl

@@ -1,0 +1,40 @@
+// The shader program: one text in four variants.
+#pragma once
+
+#include "platform/gl/matrices.h"
+#include "platform/gl/objects.h"
+
+namespace gl {
+
+/// Where a program finds its pixels: a layer of an array texture, or a texture of its own.
+enum class Sampling { Array, Single };
+/// What a program draws.
+enum class Shape { Triangles, Points };
+
+/// Side of a point in device pixels: base / sqrt(a + b·D + c·D²), D the distance from the eye.
+struct PointSizing {
+  float base = 1, a = 1, b = 0, c = 0;
+};
+
+class Program {
+ public:
+  /// Throws PlatformError with the compiler's text.
+  Program(Sampling sampling, Shape shape);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  void Use() const;
+  /// The setters need the program to be in use.
+  void ToClip(const UniformMatrix& matrix) const;
+  /// Points only: world to eye.
+  void ToEye(const UniformMatrix& matrix) const;
+  /// Points only. `sprites`: the texture covers each point.
+  void Points(const PointSizing& sizing, bool sprites) const;
+
+ private:
+  GLuint name_;
+  GLint toClip_, toEye_, sizing_, sprites_;
+};
+
+}  // namespace gl

@@ -1,0 +1,21 @@
+// How a picture becomes an OpenGL texture. Only level 0: nothing samples the others.
+#pragma once
+
+#include "platform/gl/objects.h"
+#include "platform/image.h"
+
+namespace gl {
+
+/// Frames after which a texture that nothing drew with is given up.
+inline constexpr uint64_t kFramesKept = 300;
+
+/// Gives the bound GL_TEXTURE_2D the picture, top row first.
+void UploadTexture(const Image& image);
+
+/// Storage for so many layers in the bound GL_TEXTURE_2D_ARRAY.
+void AllocateLayers(int width, int height, int layers);
+
+/// Fills one layer of the bound GL_TEXTURE_2D_ARRAY, top row first.
+void UploadLayer(const Image& image, int layer);
+
+}  // namespace gl

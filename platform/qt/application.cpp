@@ -1,0 +1,56 @@
+#include "platform/qt/application.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QUrl>
+
+#include "platform/qt/dialog_boxes.h"
+#include "platform/qt/graphics.h"
+#include "platform/qt/message_pump.h"
+#include "platform/qt/theme.h"
+#include "platform/qt/window_view.h"
+#include "platform/qt/x_auto_repeat.h"
+
+namespace qt {
+namespace {
+
+class DesktopShell : public Shell {
+ public:
+  void Open(const std::string& path) override {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)));
+  }
+};
+
+}  // namespace
+
+// Destroyed from the bottom up: the toolkit's own object goes last.
+struct Application::Parts {
+  QApplication toolkit;
+  EventPump pump;
+  DialogBoxes dialogs;
+  DesktopShell desktop;
+  GraphicsRoot root;
+  std::vector<std::unique_ptr<WindowView>> windows;
+
+  Parts(int& argc, char** argv) : toolkit(argc, argv) {}
+};
+
+Application::Application(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {
+  // The program's own loop decides when it ends.
+  QApplication::setQuitOnLastWindowClosed(false);
+  StopAutoRepeatReleases();
+  ApplyTheme(parts_->toolkit);
+}
+
+Application::~Application() = default;
+
+MessagePump& Application::Pump() { return parts_->pump; }
+dialogs::Backend& Application::Dialogs() { return parts_->dialogs; }
+Shell& Application::Desktop() { return parts_->desktop; }
+PlatformRoot& Application::Root() { return parts_->root; }
+
+void Application::Build(::Window& window) {
+  parts_->windows.push_back(std::make_unique<WindowView>(window));
+}
+
+}  // namespace qt

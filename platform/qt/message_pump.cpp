@@ -1,0 +1,34 @@
+#include "platform/qt/message_pump.h"
+
+#include <QAbstractEventDispatcher>
+#include <chrono>
+#include <thread>
+
+namespace qt {
+
+EventPump::EventPump() {
+  alarm_.setSingleShot(true);
+  alarm_.setTimerType(Qt::PreciseTimer);
+}
+
+void EventPump::Pump(double waitMilliseconds) {
+  using Moments = std::chrono::steady_clock;
+  constexpr double kLongest = 60'000.0;
+  const std::chrono::duration<double, std::milli> wait(std::clamp(waitMilliseconds, 0.0, kLongest));
+  const auto end = Moments::now() + std::chrono::duration_cast<Moments::duration>(wait);
+  QAbstractEventDispatcher& events = *QAbstractEventDispatcher::instance();
+  if (events.processEvents(QEventLoop::AllEvents) || waitMilliseconds <= 0.0) return;
+
+  // The alarm counts whole milliseconds; the rest of the last one is slept away.
+  const int whole = static_cast<int>(wait.count());
+  if (whole > 0) {
+    alarm_.start(whole);
+    events.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    const bool woken = alarm_.isActive();
+    alarm_.stop();
+    if (woken) return;
+  }
+  std::this_thread::sleep_until(end);
+}
+
+}  // namespace qt

@@ -1,0 +1,89 @@
+#include "platform/qt/picture_view.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "platform/error.h"
+#include "platform/qt/images.h"
+#include "platform/qt/theme.h"
+#include "platform/qt/virtual_keys.h"
+
+namespace qt {
+namespace {
+
+int ButtonNumber(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return 1;
+    case Qt::RightButton:
+      return 2;
+    case Qt::MiddleButton:
+      return 4;
+    default:
+      return 0;
+  }
+}
+
+// Shares the picture's bytes.
+QImage Wrap(const Image& picture) {
+  return {reinterpret_cast<const uchar*>(picture.pixels.data()), picture.width, picture.height,
+          picture.width * static_cast<int>(sizeof(uint32_t)), QImage::Format_ARGB32};
+}
+
+}  // namespace
+
+PictureView::PictureView(QWidget* parent, const PictureArea& area) : QWidget(parent), area_(area) {
+  setFocusPolicy(Qt::ClickFocus);
+  try {
+    if (!area.picture.empty()) picture_ = LoadImageFile(area.picture);
+  } catch (const PlatformError&) {
+    // A missing decoration is no reason to stop.
+  }
+}
+
+void PictureView::Show(Image picture) {
+  picture_ = std::move(picture);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  update();
+}
+
+PictureView* PictureView::Of(const PictureArea& area) {
+  for (QWidget* widget : QApplication::allWidgets()) {
+    auto* view = dynamic_cast<PictureView*>(widget);
+    if (view != nullptr && &view->area_ == &area) return view;
+  }
+  return nullptr;
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (picture_.pixels.empty()) {
+    painter.fillRect(rect(), QColor::fromRgb(colours::kEmptyPicture));
+    return;
+  }
+  QImage image = Wrap(picture_);
+  const double scale = devicePixelRatioF();
+  if (std::abs(picture_.width - width() * scale) < 1.5 &&
+      std::abs(picture_.height - height() * scale) < 1.5) {
+    // One picture pixel per device pixel: nothing to blur.
+    image.setDevicePixelRatio(scale);
+    painter.drawImage(QPointF(), image);
+    return;
+  }
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(rect(), image);
+}
+
+void PictureView::mousePressEvent(QMouseEvent* event) {
+  const int button = ButtonNumber(event->button());
+  if (button == 0) return;
+  const QPointF at = event->position();
+  area_.UserPresses(button, ShiftMask(event->modifiers()), static_cast<float>(at.x()),
+                    static_cast<float>(at.y()));
+}
+
+// The second click of a quick pair is a press like any other.
+void PictureView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+}  // namespace qt

@@ -1,0 +1,31 @@
+// The widget of a picture area: shows the last picture that it was given.
+#pragma once
+
+#include <QImage>
+#include <QWidget>
+
+#include "platform/controls.h"
+#include "platform/image.h"
+
+namespace qt {
+
+class PictureView : public QWidget {
+ public:
+  PictureView(QWidget* parent, const PictureArea& area);
+
+  /// Repaints with `picture` at the next chance.
+  void Show(Image picture);
+  /// The view of a picture area; null when none was built.
+  static PictureView* Of(const PictureArea& area);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  const PictureArea& area_;
+  Image picture_;
+};
+
+}  // namespace qt

@@ -1,0 +1,50 @@
+#include "platform/qt/up_down_view.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+#include "platform/qt/flat_style.h"
+
+namespace qt {
+
+ArrowButton::ArrowButton(QWidget* parent, bool up) : QAbstractButton(parent), up_(up) {
+  setAutoRepeat(true);
+  setAutoRepeatDelay(400);
+  setAutoRepeatInterval(60);
+  // The keys belong to the number beside it.
+  setFocusPolicy(Qt::NoFocus);
+  setAttribute(Qt::WA_Hover);
+}
+
+QSize ArrowButton::sizeHint() const { return {17, 10}; }
+
+void ArrowButton::paintEvent(QPaintEvent*) {
+  QStyleOption option;
+  option.initFrom(this);
+  option.state.setFlag(QStyle::State_Sunken, isDown());
+  QPainter painter(this);
+  DrawButtonBox(painter, rect(), option.state);
+  DrawChevron(painter, rect(), up_, isEnabled());
+}
+
+UpDownView::UpDownView(QWidget* parent, std::function<void(bool up)> onClick)
+    : QWidget(parent), up_(this, true), down_(this, false) {
+  connect(&up_, &QAbstractButton::clicked, this, [onClick] { onClick(true); });
+  connect(&down_, &QAbstractButton::clicked, this, [onClick] { onClick(false); });
+}
+
+void UpDownView::Names(const QString& name, const QString& spokenName) {
+  up_.setObjectName(name + "_up");
+  down_.setObjectName(name + "_down");
+  up_.setAccessibleName(spokenName + " up");
+  down_.setAccessibleName(spokenName + " down");
+}
+
+void UpDownView::resizeEvent(QResizeEvent*) {
+  // The halves share their middle line.
+  const int half = (height() + 1) / 2;
+  up_.setGeometry(0, 0, width(), half);
+  down_.setGeometry(0, height() - half, width(), half);
+}
+
+}  // namespace qt

@@ -1,0 +1,37 @@
+// A pair of small arrow buttons, one above the other.
+#pragma once
+
+#include <QAbstractButton>
+#include <QWidget>
+#include <functional>
+
+namespace qt {
+
+/// Half of the pair; repeats its click while it is held.
+class ArrowButton : public QAbstractButton {
+ public:
+  ArrowButton(QWidget* parent, bool up);
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool up_;
+};
+
+class UpDownView : public QWidget {
+ public:
+  /// `onClick` gets whether the upper button was clicked.
+  UpDownView(QWidget* parent, std::function<void(bool up)> onClick);
+  /// The buttons are called "name_up" and "name_down".
+  void Names(const QString& name, const QString& spokenName);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  ArrowButton up_, down_;
+};
+
+}  // namespace qt

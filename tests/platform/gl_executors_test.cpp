@@ -1,0 +1,269 @@
+// Generated scenes: the batched scheme must draw exactly what the plain one draws.
+#include <random>
+
+#include "tests/platform/gl_test_tools.h"
+
+namespace gltest {
+namespace {
+
+/// The resources of a scene and the random choices that make it.
+class Scene {
+ public:
+  explicit Scene(unsigned seed) : random_(seed) {
+    for (int i = 0; i < 30; ++i) textures_.push_back(RandomTexture());
+    for (int i = 0; i < 12; ++i) boxes_.push_back(RandomBox());
+    const std::vector<Vertex> large = LargeStrip();
+    boxes_.push_back(std::make_shared<VertexBufferObject>(std::span(large)));
+  }
+
+  /// Records one frame on each device, alike.
+  void Record(std::span<Device* const> devices) {
+    devices_ = devices;
+    if (Whole(3) == 0) textures_[Index(textures_.size())] = RandomTexture();
+    All([](Device& device) {
+      device.Clear(0xFF405060, 1);
+      device.BeginScene();
+    });
+    for (int pass = 0; pass < 3; ++pass) {
+      MoveCamera();
+      if (pass == 1 && Whole(2) == 0) {
+        All([](Device& device) { device.Clear(0xFF203040, 0.999F); });
+      }
+      for (int i = 0; i < 60; ++i) RecordSomething();
+    }
+    All([](Device& device) { device.EndScene(); });
+  }
+
+ private:
+  template <typename Action>
+  void All(Action action) {
+    for (Device* device : devices_) action(*device);
+  }
+  int Whole(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
+  size_t Index(size_t below) { return random_() % below; }
+  float Real(float low, float high) {
+    return low + (high - low) * static_cast<float>(random_() % 100001) / 100000.0F;
+  }
+  uint32_t Colour() { return static_cast<uint32_t>(random_()); }
+
+  TexturePtr RandomTexture() {
+    constexpr std::array<int, 6> kSizes = {1, 4, 16, 16, 16, 33};
+    Image image(kSizes[Index(6)], kSizes[Index(6)]);
+    for (uint32_t& pixel : image.pixels) pixel = Whole(4) == 0 ? 0U : 0xFF000000U | Colour();
+    const bool keyed = Whole(3) == 0;
+    return MakeTexture(std::move(image), keyed ? TextureObject::Format::Colour16Alpha1
+                                               : TextureObject::Format::Colour32);
+  }
+
+  VertexBufferPtr RandomBox() {
+    const float w = Real(0.2F, 4), h = Real(0.2F, 4), d = Real(0.2F, 4), u = Real(0.5F, 3);
+    constexpr int kFaces[6][4] = {{2, 3, 0, 1}, {6, 2, 4, 0}, {3, 7, 1, 5},
+                                  {6, 7, 2, 3}, {7, 6, 5, 4}, {0, 1, 4, 5}};
+    std::vector<Vertex> vertices;
+    for (const auto& face : kFaces) {
+      for (int i = 0; i < 4; ++i) {
+        const auto at = [&](int bit, float size) { return (face[i] & bit) != 0 ? size : -size; };
+        vertices.push_back({at(1, w), at(2, h), at(4, d), Colour(), Colour(),
+                            static_cast<float>(i & 1) * u, static_cast<float>(i >> 1) * u});
+      }
+    }
+    return std::make_shared<VertexBufferObject>(std::span(vertices));
+  }
+
+  /// More vertices than a batch holds.
+  std::vector<Vertex> LargeStrip() {
+    std::vector<Vertex> vertices;
+    for (int i = 0; i < 9000; ++i) {
+      const auto x = static_cast<float>(i / 2) * 0.004F - 9;
+      vertices.push_back({x, (i & 1) == 0 ? 1.0F : -1.0F, Real(-0.1F, 0.1F), Colour(), 0, x, 0});
+    }
+    return vertices;
+  }
+
+  void MoveCamera() {
+    const float place = Whole(4) == 0 ? 2400.0F : 0.0F;
+    const Matrix4 view =
+        d3dx::LookAtLH({Real(-8, 8), Real(-8, 8), place - Real(10, 30)}, {0, 0, place}, {0, 1, 0});
+    const Matrix4 projection = d3dx::PerspectiveFovLH(Real(0.5F, 1.2F), Real(0.8F, 1.5F), 1, 60);
+    All([&](Device& device) {
+      device.SetTransform(Transform::View, view);
+      device.SetTransform(Transform::Projection, projection);
+    });
+  }
+
+  void RecordSomething() {
+    if (Whole(6) == 0) ChangeStates();
+    const TexturePtr texture = Whole(8) == 0 ? nullptr : textures_[Index(textures_.size())];
+    All([&](Device& device) { device.SetTexture(texture); });
+    switch (Whole(12)) {
+      case 0:
+        return RecordPoints();
+      case 1:
+        return RecordPanel();
+      default:
+        return RecordBox();
+    }
+  }
+
+  void ChangeStates() {
+    constexpr std::array<RenderState, 6> kStates = {
+        RenderState::Lighting,  RenderState::DepthTest,  RenderState::AlphaBlend,
+        RenderState::DepthTest, RenderState::DepthWrite, RenderState::MultisampleAntialias};
+    const RenderState state = kStates[Index(kStates.size())];
+    const bool on = Whole(3) != 0;
+    // Few pairs: the driver compiles anew for each combination of states.
+    constexpr std::array<std::pair<Blend, Blend>, 3> kBlends = {
+        {{Blend::SourceAlpha, Blend::InverseSourceAlpha},
+         {Blend::SourceAlpha, Blend::One},
+         {Blend::One, Blend::InverseSourceAlpha}}};
+    const auto [source, destination] = kBlends[Index(kBlends.size())];
+    const auto filter = static_cast<Filter>(Whole(2));
+    All([&, from = source, to = destination](Device& device) {
+      device.SetRenderState(state, on);
+      device.SetBlend(BlendState::Source, from);
+      device.SetBlend(BlendState::Destination, to);
+      device.SetTextureStageState(StageState::MagFilter, filter);
+      device.SetTextureStageState(StageState::MinFilter, filter);
+    });
+  }
+
+  void RecordPoints() {
+    std::vector<PointVertex> points;
+    for (int i = 0; i < 20; ++i) {
+      points.push_back({Real(-9, 9), Real(-9, 9), Real(-9, 40), Colour(), Real(0, 1), Real(0, 1)});
+    }
+    const bool sprites = Whole(2) == 0, scaled = Whole(2) == 0;
+    const float size = scaled ? Real(0.01F, 0.2F) : Real(1, 30);
+    All([&](Device& device) {
+      device.SetRenderState(RenderState::PointSprite, sprites);
+      device.SetRenderState(RenderState::PointScale, scaled);
+      SetPointSize(device, size);
+      device.DrawPrimitiveUP(points);
+    });
+  }
+
+  void RecordPanel() {
+    const float x = Real(-20, 180), y = Real(-20, 120), z = Real(0, 1);
+    const uint32_t colour = Colour();
+    All([&](Device& device) { DrawRectangle(device, x, y, x + 50, y + 30, z, colour, 2); });
+  }
+
+  void RecordBox() {
+    Matrix4 world = d3dx::RotationY(Real(0, 6));
+    const float far = Whole(4) == 0 ? 2400.0F : 0.0F;
+    world.m[3] = {Real(-25, 25), Real(-25, 25), far + Real(-40, 60), 1};
+    const VertexBufferPtr box = boxes_[Index(boxes_.size())];
+    const auto count = static_cast<uint32_t>(box->VertexCount());
+    const auto primitive = Whole(4) == 0 ? Primitive::TriangleList : Primitive::TriangleStrip;
+    const bool whole = Whole(3) == 0;
+    All([&](Device& device) {
+      device.SetTransform(Transform::World, world);
+      device.SetVertexFormat(VertexFormat::World);
+      device.SetStreamSource(box, sizeof(Vertex));
+      if (whole) {
+        device.DrawPrimitive(primitive, 0,
+                             primitive == Primitive::TriangleList ? count / 3 : count - 2);
+      } else {
+        for (uint32_t first = 0; first < 24; first += 4) {
+          device.DrawPrimitive(Primitive::TriangleStrip, first, 2);
+        }
+      }
+    });
+  }
+
+  std::mt19937 random_;
+  std::vector<TexturePtr> textures_;
+  std::vector<VertexBufferPtr> boxes_;
+  std::span<Device* const> devices_;
+};
+
+class GeneratedScenes : public testing::TestWithParam<unsigned> {};
+INSTANTIATE_TEST_SUITE_P(Seeds, GeneratedScenes, testing::Range(1U, 21U));
+
+TEST_P(GeneratedScenes, BothSchemesDrawTheSamePixels) {
+  NeedContext();
+  const unsigned seed = GetParam();
+  const gl::TargetSettings settings = {160, 121, seed % 2 == 0 ? 4 : 1, seed % 3 == 0 ? 1.5 : 1.0};
+  Screen batched(gl::Scheme::Batched, settings), plain(gl::Scheme::Plain, settings);
+  Scene scene(seed);
+  const std::array<Device*, 2> devices = {&batched.device, &plain.device};
+  for (int frame = 0; frame < 5; ++frame) {
+    scene.Record(devices);
+    ExpectSamePicture(batched.Present(), plain.Present(),
+                      "scene" + std::to_string(seed) + "_" + std::to_string(frame));
+  }
+}
+
+/// Draws small squares, one for each texture.
+void RecordSquares(Device& device, std::span<const TexturePtr> textures) {
+  device.Clear(0xFF000000, 1);
+  device.BeginScene();
+  for (size_t i = 0; i < textures.size(); ++i) {
+    const auto x = static_cast<float>(2 * (i % 50)), y = static_cast<float>(2 * (i / 50));
+    device.SetTexture(textures[i]);
+    DrawRectangle(device, x, y, x + 2, y + 2, 0, 0xFFFFFFFF);
+  }
+  device.EndScene();
+}
+
+void ExpectSquares(const Image& picture, std::span<const TexturePtr> textures) {
+  for (size_t i = 0; i < textures.size(); ++i) {
+    const int x = static_cast<int>(2 * (i % 50)), y = static_cast<int>(2 * (i / 50));
+    ASSERT_EQ(picture.At(x, y), textures[i]->Level(0).At(0, 0)) << i;
+  }
+}
+
+TEST(BatchedTextures, HundredsOfOneSizeInOneFrame) {
+  NeedContext();
+  Screen screen(gl::Scheme::Batched, {100, 40, 1, 1});
+  std::vector<TexturePtr> textures;
+  for (uint32_t i = 0; i < 600; ++i) textures.push_back(PlainTexture(0xFF000000U | i * 77));
+  for (int frame = 0; frame < 3; ++frame) {
+    RecordSquares(screen.device, textures);
+    ExpectSquares(screen.Present(), textures);
+  }
+}
+
+TEST(BatchedTextures, UnusedOnesMakeRoomAndComeBack) {
+  NeedContext();
+  Screen screen(gl::Scheme::Batched, {100, 40, 1, 1});
+  std::vector<TexturePtr> textures;
+  for (uint32_t i = 0; i < 60; ++i) textures.push_back(PlainTexture(0xFF000000U | i * 4001));
+  const std::span all(textures);
+  RecordSquares(screen.device, all);
+  screen.Present();
+  // Two frames in turn, so that neither is skipped as unchanged.
+  for (size_t frame = 0; frame < 500; ++frame) {
+    RecordSquares(screen.device, all.subspan(frame % 2, 3));
+    screen.device.Present();
+  }
+  RecordSquares(screen.device, all);
+  ExpectSquares(screen.Present(), all);
+}
+
+TEST(BatchedTextures, ANewTextureAtAnOldAddressIsSeen) {
+  NeedContext();
+  Screen screen(gl::Scheme::Batched, {100, 40, 1, 1});
+  for (uint32_t i = 1; i < 50; ++i) {
+    const std::vector<TexturePtr> textures = {PlainTexture(0xFF000000U | i * 5)};
+    RecordSquares(screen.device, textures);
+    ExpectSquares(screen.Present(), textures);
+    screen.device.SetTexture(nullptr);
+  }
+}
+
+TEST(UnchangedFrames, KeepTheirPictureAndNoticeEveryChange) {
+  NeedContext();
+  Screen screen(gl::Scheme::Batched, {100, 40, 1, 1});
+  std::vector<TexturePtr> textures = {PlainTexture(0xFFFF0000), PlainTexture(0xFF00FF00)};
+  for (int round = 0; round < 3; ++round) {
+    for (int frame = 0; frame < 5; ++frame) {
+      RecordSquares(screen.device, textures);
+      ExpectSquares(screen.Present(), textures);
+    }
+    std::swap(textures[0], textures[1]);
+  }
+}
+
+}  // namespace
+}  // namespace gltest

@@ -1,0 +1,130 @@
+// A device with a picture to look at, and the means to compare pictures.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <fstream>
+#include <string>
+
+#include "platform/d3dx.h"
+#include "platform/device.h"
+#include "platform/gl/headless_context.h"
+#include "platform/gl/picture_executor.h"
+
+namespace gltest {
+
+inline void NeedContext() { static gl::HeadlessContext context; }
+
+/// Lets a test keep hold of the executor that the device owns.
+class Forwarder : public Executor {
+ public:
+  explicit Forwarder(gl::PictureExecutor& executor) : executor_(executor) {}
+  void Execute(const CommandList& frame) override { executor_.Execute(frame); }
+
+ private:
+  gl::PictureExecutor& executor_;
+};
+
+class Screen {
+ public:
+  Screen(gl::Scheme scheme, const gl::TargetSettings& settings)
+      : executor(gl::CreateExecutor(scheme, settings)),
+        device(std::make_unique<Forwarder>(*executor)) {}
+
+  Image Present() {
+    device.Present();
+    return executor->ReadPicture();
+  }
+
+  std::unique_ptr<gl::PictureExecutor> executor;
+  Device device;
+};
+
+inline void WritePpm(const Image& image, const std::string& path) {
+  std::ofstream file(path, std::ios::binary);
+  file << "P6\n" << image.width << ' ' << image.height << "\n255\n";
+  for (const uint32_t pixel : image.pixels) {
+    for (const unsigned shift : {16U, 8U, 0U}) file.put(static_cast<char>(pixel >> shift));
+  }
+}
+
+/// Expects 0 differing pixels; otherwise leaves both pictures and their difference.
+inline void ExpectSamePicture(const Image& actual, const Image& expected, const std::string& name) {
+  ASSERT_EQ(actual.width, expected.width);
+  ASSERT_EQ(actual.height, expected.height);
+  Image difference(actual.width, actual.height);
+  int differing = 0;
+  for (size_t i = 0; i < actual.pixels.size(); ++i) {
+    if (actual.pixels[i] == expected.pixels[i]) continue;
+    ++differing;
+    difference.pixels[i] = 0xFFFFFFFF;
+  }
+  if (differing == 0) return;
+  const std::string stem = testing::TempDir() + name;
+  WritePpm(actual, stem + "_actual.ppm");
+  WritePpm(expected, stem + "_expected.ppm");
+  WritePpm(difference, stem + "_difference.ppm");
+  ADD_FAILURE() << differing << " pixels differ, see " << stem << "_*.ppm";
+}
+
+inline TexturePtr MakeTexture(Image image,
+                              TextureObject::Format format = TextureObject::Format::Colour32) {
+  return std::make_shared<TextureObject>(std::move(image), format);
+}
+
+inline TexturePtr PlainTexture(uint32_t colour) { return MakeTexture(Image(4, 4, colour)); }
+
+/// A strip over the rectangle; the texture covers it `repeats` times each way.
+inline void DrawRectangle(Device& device, float left, float top, float right, float bottom, float z,
+                          uint32_t colour, float repeats = 1) {
+  const std::array<ScreenVertex, 4> vertices = {{{left, top, z, 1, colour, 0, 0, 0},
+                                                 {right, top, z, 1, colour, 0, repeats, 0},
+                                                 {left, bottom, z, 1, colour, 0, 0, repeats},
+                                                 {right, bottom, z, 1, colour, 0, repeats, repeats}}};
+  device.SetVertexFormat(VertexFormat::Screen);
+  device.SetStreamSource(device.CreateVertexBuffer(vertices), sizeof(ScreenVertex));
+  device.DrawPrimitive(Primitive::TriangleStrip, 0, 2);
+}
+
+inline void DrawWorld(Device& device, std::span<const Vertex> vertices,
+                      Primitive primitive = Primitive::TriangleList) {
+  device.SetVertexFormat(VertexFormat::World);
+  device.SetStreamSource(device.CreateVertexBuffer(vertices), sizeof(Vertex));
+  const auto count = static_cast<uint32_t>(vertices.size());
+  device.DrawPrimitive(primitive, 0, primitive == Primitive::TriangleList ? count / 3 : count - 2);
+}
+
+inline void SetPointSize(Device& device, float size) {
+  device.SetPointSize(std::bit_cast<int32_t>(size));
+}
+
+/// Whether no channel differs by more than `tolerance`.
+inline bool Near(uint32_t a, uint32_t b, int tolerance = 1) {
+  for (const unsigned shift : {24U, 16U, 8U, 0U}) {
+    const auto channel = [shift](uint32_t c) { return static_cast<int>((c >> shift) & 0xFFU); };
+    if (std::abs(channel(a) - channel(b)) > tolerance) return false;
+  }
+  return true;
+}
+
+/// The smallest rectangle around all pixels of a colour: left, top, right, bottom, right and bottom
+/// exclusive; all zero when there are none.
+struct Bounds {
+  int left = 0, top = 0, right = 0, bottom = 0;
+  bool operator==(const Bounds&) const = default;
+};
+
+inline Bounds BoundsOf(const Image& image, uint32_t colour) {
+  Bounds bounds{image.width, image.height, 0, 0};
+  for (int y = 0; y < image.height; ++y) {
+    for (int x = 0; x < image.width; ++x) {
+      if (image.At(x, y) != colour) continue;
+      bounds = {std::min(bounds.left, x), std::min(bounds.top, y), std::max(bounds.right, x + 1),
+                std::max(bounds.bottom, y + 1)};
+    }
+  }
+  return bounds.right == 0 ? Bounds{} : bounds;
+}
+
+}  // namespace gltest

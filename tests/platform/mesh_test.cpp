@@ -1,0 +1,168 @@
+#include "platform/mesh.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Two quads and a triangle; the first material is used last.
+constexpr const char* kModel = R"(xof 0303txt 0032
+
+Mesh {
+ 7;
+ 0.0; 0.0; 1.0;,
+ 0.0; 2.0; 1.0;,
+ 3.0; 2.0; 1.0;,
+ 3.0; 0.0; 1.0;,
+ -1.5; 0.25; -4.0;,
+ -1.5; 1.25; -4.0;,
+ -0.5; 0.25; -4.0;;
+ 3;
+ 4; 0, 1, 2, 3;,
+ 3; 4, 5, 6;,
+ 4; 3, 2, 1, 0;;
+ MeshTextureCoords {
+  7;
+  0.0; 1.0;,
+  0.0; 0.0;,
+  1.0; 0.0;,
+  1.0; 1.0;,
+  0.25; 0.75;,
+  0.25; 0.125;,
+  2.5; 0.75;;
+ }
+ MeshMaterialList {
+  2;
+  3;
+  1,
+  0,
+  1;
+  Material {
+   0.5; 0.25; 0.125; 1.0;;
+   0.0;
+   0.0; 0.0; 0.0;;
+   0.0; 0.0; 0.0;;
+   TextureFilename { "first.png"; }
+  }
+  Material {
+   1.0; 1.0; 1.0; 0.5;;
+   0.0;
+   0.0; 0.0; 0.0;;
+   0.0; 0.0; 0.0;;
+  }
+ }
+}
+)";
+
+class MeshFile : public testing::Test {
+ protected:
+  MeshFile() { fs::create_directories(folder_); }
+  ~MeshFile() override { fs::remove_all(folder_); }
+  std::string Write(const std::string& text) const {
+    const fs::path path = folder_ / "model.x";
+    std::ofstream(path, std::ios::binary) << text;
+    return path.string();
+  }
+  std::vector<d3dx::MeshObject::Subset> Read(const std::string& text) const {
+    return mesh::ReadXFile(Write(text));
+  }
+  fs::path folder_ = fs::path(testing::TempDir()) /
+                     ("mesh_test_" + std::to_string(std::hash<std::string>()(
+                                         testing::UnitTest::GetInstance()->current_test_info()->name())));
+};
+
+TEST_F(MeshFile, OneSubsetPerMaterialInFileOrder) {
+  const auto subsets = Read(kModel);
+  ASSERT_EQ(subsets.size(), 2U);
+  EXPECT_EQ(subsets[0].material.textureName, "first.png");
+  EXPECT_EQ(subsets[0].material.material.diffuse, (ColourValue{0.5F, 0.25F, 0.125F, 1}));
+  EXPECT_EQ(subsets[0].triangles.size(), 3U);
+  EXPECT_EQ(subsets[1].material.textureName, "");
+  EXPECT_EQ(subsets[1].material.material.diffuse, (ColourValue{1, 1, 1, 0.5F}));
+  EXPECT_EQ(subsets[1].triangles.size(), 12U);
+}
+
+TEST_F(MeshFile, NumbersAndWindingComeOutAsTheyStand) {
+  const auto triangle = Read(kModel)[0].triangles;
+  ASSERT_EQ(triangle.size(), 3U);
+  const std::array<Vertex, 3> expected = {{{-1.5F, 0.25F, -4, 0xFFFFFFFF, 0, 0.25F, 0.75F},
+                                           {-1.5F, 1.25F, -4, 0xFFFFFFFF, 0, 0.25F, 0.125F},
+                                           {-0.5F, 0.25F, -4, 0xFFFFFFFF, 0, 2.5F, 0.75F}}};
+  // Which corner comes first means nothing, their order does.
+  const auto first = std::ranges::find(triangle, expected[0]);
+  ASSERT_NE(first, triangle.end());
+  const auto start = static_cast<size_t>(first - triangle.begin());
+  EXPECT_EQ(triangle[(start + 1) % 3], expected[1]);
+  EXPECT_EQ(triangle[(start + 2) % 3], expected[2]);
+}
+
+/// Twice the signed area as seen from negative z, y upwards: positive when clockwise.
+float ClockwiseArea(const Vertex* t) {
+  return (t[1].y - t[0].y) * (t[2].x - t[0].x) - (t[1].x - t[0].x) * (t[2].y - t[0].y);
+}
+
+TEST_F(MeshFile, QuadsBecomeTrianglesOfTheSameWinding) {
+  const auto triangles = Read(kModel)[1].triangles;
+  ASSERT_EQ(triangles.size(), 12U);
+  EXPECT_EQ(ClockwiseArea(&triangles[0]) + ClockwiseArea(&triangles[3]), 12);
+  EXPECT_EQ(ClockwiseArea(&triangles[6]) + ClockwiseArea(&triangles[9]), -12);
+  for (size_t i = 0; i < 12; i += 3) EXPECT_EQ(std::abs(ClockwiseArea(&triangles[i])), 6);
+}
+
+TEST_F(MeshFile, FramesPlaceTheirMeshes) {
+  const std::string text = kModel;
+  const size_t mesh = text.find("Mesh {");
+  const auto subsets = Read(text.substr(0, mesh) +
+                            "Frame Outer { FrameTransformMatrix {\n"
+                            "1.0,0.0,0.0,0.0,0.0,2.0,0.0,0.0,0.0,0.0,1.0,0.0,10.0,20.0,30.0,1.0;; }\n" +
+                            text.substr(mesh) + "}\n");
+  ASSERT_EQ(subsets.size(), 2U);
+  const auto& triangle = subsets[0].triangles;
+  const auto isPlaced = [](const Vertex& v) { return v.x == 8.5F && v.y == 22.5F && v.z == 26; };
+  EXPECT_TRUE(std::ranges::any_of(triangle, isPlaced));
+}
+
+TEST_F(MeshFile, ATexturesFolderIsDropped) {
+  std::string text = kModel;
+  text.replace(text.find("first.png"), 9, "art\\\\skins\\\\car.png");
+  EXPECT_EQ(Read(text)[0].material.textureName, "car.png");
+}
+
+void ExpectRefused(const std::string& path) {
+  try {
+    mesh::ReadXFile(path);
+    FAIL() << path << " was read";
+  } catch (const PlatformError& error) {
+    EXPECT_TRUE(std::string(error.what()).starts_with(path + ": ")) << error.what();
+    EXPECT_GT(std::string(error.what()).size(), path.size() + 2);
+  }
+}
+
+TEST_F(MeshFile, MissingAndDamagedFilesAreRefusedByName) {
+  ExpectRefused((folder_ / "missing.x").string());
+  ExpectRefused(Write(""));
+  ExpectRefused(Write("this is no model"));
+  ExpectRefused(Write("xof 0303txt 0032\n"));
+  ExpectRefused(Write(std::string(kModel).substr(0, 200)));
+  std::string badIndex = kModel;
+  badIndex.replace(badIndex.find("4, 5, 6"), 7, "4, 5, 7");
+  ExpectRefused(Write(badIndex));
+}
+
+TEST_F(MeshFile, EveryCutIsReadOrRefusedButNothingElse) {
+  const std::string whole = kModel;
+  for (size_t length = 0; length < whole.size(); ++length) {
+    const std::string path = Write(whole.substr(0, length));
+    try {
+      mesh::ReadXFile(path);
+    } catch (const PlatformError&) {
+    }
+  }
+}
+
+}  // namespace

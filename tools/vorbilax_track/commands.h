@@ -1,0 +1,25 @@
+// The commands of vorbilax-track. Each returns the exit status: 0 fine, 1 the input is bad (the
+// reason has been written to stderr).
+#pragma once
+
+#include <string>
+
+namespace track_tool {
+
+inline constexpr int kFine = 0, kBadInput = 1, kWrongUsage = 2;
+
+/// Writes version, counts, gravity, backdrop and textures of a level file to stdout.
+int Info(const std::string& file, bool json);
+
+/// Reads any version, writes the current one exactly as the editor's Save does.
+int Convert(const std::string& input, const std::string& output);
+
+struct RenderOptions {
+  double depth = 0;    ///< what the camera looks at, world units along the track
+  int frames = 1;      ///< the picture is the last of so many frames
+  bool plain = false;  ///< draw with the plain executor
+};
+/// Writes the viewport as a PNG picture.
+int Render(const std::string& file, const std::string& picture, const RenderOptions& options);
+
+}  // namespace track_tool

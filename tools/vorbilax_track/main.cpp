@@ -1,0 +1,44 @@
+// vorbilax-track: level files without the editor's window, for scripts and tests.
+#include <CLI/CLI.hpp>
+
+#include "platform/paths.h"
+#include "tools/vorbilax_track/commands.h"
+
+int main(int argc, char** argv) {
+  using namespace track_tool;
+  CLI::App app("Reads, converts and draws Vorbilax level files.", "vorbilax-track");
+  app.require_subcommand(1);
+  app.fallthrough();
+  std::string data = paths::ProgramFolder();
+  app.add_option("--data", data, "folder with textures, backgrounds, models and skins");
+
+  std::string input, output;
+  bool json = false;
+  CLI::App* info = app.add_subcommand("info", "what a level file holds");
+  info->add_option("FILE", input, "level file")->required();
+  info->add_flag("--json", json, "as JSON");
+
+  CLI::App* convert = app.add_subcommand("convert", "rewrite a level file in the current version");
+  convert->add_option("IN", input, "level file of any version")->required();
+  convert->add_option("OUT", output, "file to write")->required();
+
+  RenderOptions options;
+  CLI::App* render = app.add_subcommand("render", "draw a track as the editor shows it");
+  render->add_option("FILE", input, "level file")->required();
+  render->add_option("PICTURE", output, "PNG file to write")->required();
+  render->add_option("--depth", options.depth, "depth that the camera looks at")
+      ->check(CLI::Range(-1e6, 1e6));
+  render->add_option("--frames", options.frames, "frames to run")->check(CLI::Range(1, 1'000'000));
+  render->add_flag("--plain", options.plain, "one drawing call per face");
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& failure) {
+    return app.exit(failure) == 0 ? kFine : kWrongUsage;
+  }
+  while (data.size() > 1 && data.ends_with('/')) data.pop_back();
+  paths::InstallFolder(data);
+  if (info->parsed()) return Info(input, json);
+  if (convert->parsed()) return Convert(input, output);
+  return Render(input, output, options);
+}
