@@ -4,7 +4,7 @@
 #include <bit>
 #include <cmath>
 
-#include "platform/d3dx.h"
+#include "platform/d3dx_maths.h"
 #include "platform/numbers.h"
 #include "render/DirectX.h"
 
@@ -69,7 +69,7 @@ void GetPickRay(float x, float y, float fov, int32_t width, int32_t height, Vect
   const int32_t hw = ToLong(width / 2.0);
   const int32_t hh = ToLong(height / 2.0);
   if (hw == 0 || hh == 0) throw std::overflow_error("Division by zero");
-  const float t = ToSingle(std::tan(double{fov} / 2));
+  const double t = std::tan(double{fov} / 2);
   const float dx = ToSingle((double{x} / hw - 1) * t);
   const float dy = ToSingle((1 - double{y} / hh) * t);
   nearPoint = {ToSingle(double{dx} * nearDist), ToSingle(double{dy} * nearDist), nearDist};
@@ -82,17 +82,17 @@ void GetPickRay(float x, float y, float fov, int32_t width, int32_t height, Vect
 
 bool IntersectRayPlane(const CollisionPlane& plane, const Vector3& start, const Vector3& dir,
                        Vector3& hit) {
-  const float s = ToSingle(PlaneDot(plane, dir, 0));
+  const double s = PlaneDot(plane, dir, 0);
   if (s == 0) return false;
-  const float t = ToSingle(-PlaneDot(plane, start, 1) / s);
-  hit = {ToSingle(start.x + double{t} * dir.x), ToSingle(start.y + double{t} * dir.y),
-         ToSingle(start.z + double{t} * dir.z)};
+  const double t = -PlaneDot(plane, start, 1) / s;
+  hit = {ToSingle(start.x + t * dir.x), ToSingle(start.y + t * dir.y),
+         ToSingle(start.z + t * dir.z)};
   if (std::abs(hit.x) < 0.001) hit.x = 0;
 
   const Vector3 end{ToSingle(double{start.x} + dir.x), ToSingle(double{start.y} + dir.y),
                     ToSingle(double{start.z} + dir.z)};
-  const float s1 = ToSingle(PlaneDot(plane, d3dx::Subtract(start, hit), 0));
-  const float s2 = ToSingle(PlaneDot(plane, d3dx::Subtract(end, hit), 0));
+  const double s1 = PlaneDot(plane, d3dx::Subtract(start, hit), 0);
+  const double s2 = PlaneDot(plane, d3dx::Subtract(end, hit), 0);
   return Sign(s1) != Sign(s2) || (s1 == 0 && s2 == 0);
 }
 

@@ -1,7 +1,9 @@
+#include "platform/d3dx_maths.h"
+
 #include <cmath>
 #include <utility>
 
-#include "platform/d3dx.h"
+#include "platform/error.h"
 #include "platform/numbers.h"
 
 namespace d3dx {

@@ -2,7 +2,7 @@
 
 #include <bit>
 
-#include "platform/d3dx.h"
+#include "platform/d3dx_maths.h"
 
 namespace {
 

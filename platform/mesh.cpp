@@ -59,9 +59,9 @@ void AppendNode(const aiScene& scene, const aiNode& node, const aiMatrix4x4& par
 Subsets ReadXFile(const std::string& path) {
   Assimp::Importer importer;
   // The importer turns everything right-handed; converting back restores the file's own numbers.
-  const aiScene* scene = importer.ReadFile(path, aiProcess_Triangulate |
-                                                     aiProcess_ConvertToLeftHanded |
-                                                     aiProcess_ValidateDataStructure);
+  const aiScene* scene =
+      importer.ReadFile(path, aiProcess_Triangulate | aiProcess_ConvertToLeftHanded |
+                                  aiProcess_ValidateDataStructure);
   if (scene == nullptr) throw PlatformError(path + ": " + importer.GetErrorString());
   if (scene->mRootNode == nullptr || scene->mNumMeshes == 0) {
     throw PlatformError(path + ": no mesh in the file");

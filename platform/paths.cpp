@@ -15,7 +15,7 @@ std::string& Folder() {
   return folder;
 }
 
-char Lower(char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); }
+int Lower(char c) { return std::tolower(static_cast<unsigned char>(c)); }
 
 bool ListOrder(const std::string& a, const std::string& b) {
   const auto less = [](char x, char y) { return Lower(x) < Lower(y); };

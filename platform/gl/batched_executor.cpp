@@ -12,7 +12,7 @@ constexpr size_t kCommandsAhead = 24;
 }  // namespace
 
 BatchedExecutor::BatchedExecutor(const TargetSettings& settings)
-    : pipeline_(settings, Sampling::Array),
+    : pipeline_(settings),
       pending_(std::make_unique_for_overwrite<StreamVertex[]>(kPendingVertices)),
       pendingCapacity_(kPendingVertices) {}
 
@@ -53,7 +53,10 @@ void BatchedExecutor::DrawFrame(const CommandList& frame) {
       pipeline_.Clear(command);
       continue;
     }
-    if (command.camera != camera_) UseCamera(frame, command.camera);
+    // A camera set again as it was must not split batches.
+    if (command.camera != camera_ && frame.cameras[command.camera] != frame.cameras[camera_]) {
+      UseCamera(frame, command.camera);
+    }
     if (Visible(frame, command)) Collect(frame, command);
   }
   Flush();
@@ -68,8 +71,7 @@ void BatchedExecutor::UseCamera(const CommandList& frame, uint32_t camera) {
 bool BatchedExecutor::Visible(const CommandList& frame, const Command& draw) {
   if (draw.buffer == seen_.buffer && draw.world == seen_.world) return seen_.visible;
   // A point sprite reaches beyond the box around its centre, and screen vertices know no camera.
-  const bool tested =
-      draw.primitive != Primitive::PointList && draw.format != VertexFormat::Screen;
+  const bool tested = draw.primitive != Primitive::PointList && draw.format != VertexFormat::Screen;
   seen_ = {draw.buffer, draw.world,
            !tested || frustum_.MaySee(*draw.buffer, frame.worlds[draw.world])};
   return seen_.visible;
@@ -80,7 +82,8 @@ void BatchedExecutor::Collect(const CommandList& frame, const Command& draw) {
     lastTexture_ = draw.texture;
     lastPlace_ = draw.texture != nullptr ? textures_.Find(*draw.texture) : TextureArrays::Place();
   }
-  const DrawMode mode = ModeOf(draw);
+  DrawMode mode = ModeOf(draw);
+  mode.camera = camera_;
   const bool otherArray = lastPlace_.array != batch_.array && lastPlace_.array != 0;
   if (mode != batch_.mode || (otherArray && batch_.array != 0)) {
     Flush();

@@ -48,8 +48,8 @@ bool Frustum::FourPlanes::AnyBehind(Float4 centre, Float4 reach) const {
 bool Frustum::MaySee(const VertexBufferObject& buffer, const Matrix4& world) const {
   const Vector3 &low = buffer.Smallest(), &high = buffer.Greatest();
   const Rows rows(world);
-  const Float4 centre = rows.Place(0.5F * (low.x + high.x), 0.5F * (low.y + high.y),
-                                   0.5F * (low.z + high.z));
+  const Float4 centre =
+      rows.Place(0.5F * (low.x + high.x), 0.5F * (low.y + high.y), 0.5F * (low.z + high.z));
   const Float4 reach = Splat(0.5F * (high.x - low.x)) * Abs(rows.rows[0]) +
                        Splat(0.5F * (high.y - low.y)) * Abs(rows.rows[1]) +
                        Splat(0.5F * (high.z - low.z)) * Abs(rows.rows[2]);

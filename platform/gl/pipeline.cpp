@@ -52,11 +52,8 @@ DrawMode ModeOf(const Command& draw) {
           draw.format == VertexFormat::Screen};
 }
 
-Pipeline::Pipeline(const TargetSettings& settings, Sampling sampling)
-    : settings_(settings),
-      target_(settings),
-      triangles_(sampling, Shape::Triangles),
-      points_(sampling, Shape::Points) {
+Pipeline::Pipeline(const TargetSettings& settings)
+    : settings_(settings), target_(settings), triangles_(Shape::Triangles), points_(Shape::Points) {
   for (const GLenum direction : {GL_TEXTURE_WRAP_S, GL_TEXTURE_WRAP_T}) {
     glSamplerParameteri(sampler_.Name(), direction, GL_REPEAT);
   }

@@ -21,7 +21,7 @@ DrawMode ModeOf(const Command& draw);
 class Pipeline {
  public:
   /// Throws PlatformError.
-  Pipeline(const TargetSettings& settings, Sampling sampling);
+  explicit Pipeline(const TargetSettings& settings);
 
   /// Takes the context over, whatever its state. `frame` must stay until the next call.
   void BeginFrame(const CommandList& frame);

@@ -21,9 +21,8 @@ GLenum ModeName(Primitive primitive) {
 
 void PlainExecutor::Execute(const CommandList& frame) {
   ++frame_;
-  std::erase_if(textures_, [this](const auto& item) {
-    return item.second.lastFrame + kFramesKept < frame_;
-  });
+  std::erase_if(textures_,
+                [this](const auto& item) { return item.second.lastFrame + kFramesKept < frame_; });
   pipeline_.BeginFrame(frame);
   stream_.Bind();
   for (const Command& command : frame.commands) {
@@ -47,8 +46,11 @@ void PlainExecutor::Bind(const TextureObject& texture) {
   const auto [item, isNew] = textures_.try_emplace(texture.Id());
   StoredTexture& stored = item->second;
   stored.lastFrame = frame_;
-  glBindTexture(GL_TEXTURE_2D, stored.name.Name());
-  if (isNew) UploadTexture(texture.Level(0));
+  glBindTexture(GL_TEXTURE_2D_ARRAY, stored.name.Name());
+  if (!isNew) return;
+  // One layer each: drivers round differently for other kinds of texture.
+  AllocateLayers(texture.Width(), texture.Height(), 1);
+  UploadLayer(texture.Level(0), 0);
 }
 
 }  // namespace gl

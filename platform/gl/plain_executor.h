@@ -11,7 +11,7 @@ namespace gl {
 class PlainExecutor : public PictureExecutor {
  public:
   /// Throws PlatformError.
-  explicit PlainExecutor(const TargetSettings& settings) : pipeline_(settings, Sampling::Single) {}
+  explicit PlainExecutor(const TargetSettings& settings) : pipeline_(settings) {}
 
   void Execute(const CommandList& frame) override;
   Image ReadPicture() override { return pipeline_.ReadPicture(); }

@@ -39,11 +39,7 @@ in vec4 passedColour;
 in vec2 passedTexel;
 flat in int passedLayer;
 out vec4 result;
-#ifdef ARRAY
 uniform sampler2DArray picture;
-#else
-uniform sampler2D picture;
-#endif
 #ifdef POINTS
 uniform bool sprites;
 #endif
@@ -52,11 +48,7 @@ void main() {
 #ifdef POINTS
   if (sprites) place = gl_PointCoord;
 #endif
-#ifdef ARRAY
   vec4 sampled = texture(picture, vec3(place, float(max(passedLayer, 0))));
-#else
-  vec4 sampled = texture(picture, place);
-#endif
   result = passedLayer < 0 ? passedColour : vec4(sampled.rgb * passedColour.rgb, sampled.a);
 }
 )";
@@ -68,10 +60,9 @@ std::string LogOf(GetLog getLog, GLuint name) {
   return text.data();
 }
 
-GLuint Compile(GLenum stage, Sampling sampling, Shape shape, const char* text) {
-  const std::array<const char*, 4> parts = {
-      "#version 330 core\n", sampling == Sampling::Array ? "#define ARRAY\n" : "",
-      shape == Shape::Points ? "#define POINTS\n" : "", text};
+GLuint Compile(GLenum stage, Shape shape, const char* text) {
+  const std::array<const char*, 3> parts = {"#version 330 core\n",
+                                            shape == Shape::Points ? "#define POINTS\n" : "", text};
   const GLuint shader = glCreateShader(stage);
   glShaderSource(shader, static_cast<GLsizei>(parts.size()), parts.data(), nullptr);
   glCompileShader(shader);
@@ -83,10 +74,10 @@ GLuint Compile(GLenum stage, Sampling sampling, Shape shape, const char* text) {
   throw PlatformError("shader: " + log);
 }
 
-GLuint Link(Sampling sampling, Shape shape) {
+GLuint Link(Shape shape) {
   const GLuint program = glCreateProgram();
-  const GLuint vertex = Compile(GL_VERTEX_SHADER, sampling, shape, kVertexText);
-  const GLuint fragment = Compile(GL_FRAGMENT_SHADER, sampling, shape, kFragmentText);
+  const GLuint vertex = Compile(GL_VERTEX_SHADER, shape, kVertexText);
+  const GLuint fragment = Compile(GL_FRAGMENT_SHADER, shape, kFragmentText);
   for (const GLuint shader : {vertex, fragment}) {
     glAttachShader(program, shader);
     glDeleteShader(shader);
@@ -102,8 +93,8 @@ GLuint Link(Sampling sampling, Shape shape) {
 
 }  // namespace
 
-Program::Program(Sampling sampling, Shape shape)
-    : name_(Link(sampling, shape)),
+Program::Program(Shape shape)
+    : name_(Link(shape)),
       toClip_(glGetUniformLocation(name_, "toClip")),
       toEye_(glGetUniformLocation(name_, "toEye")),
       sizing_(glGetUniformLocation(name_, "sizing")),

@@ -1,4 +1,4 @@
-// The shader program: one text in four variants.
+// The shader program: one text, for triangles and for points.
 #pragma once
 
 #include "platform/gl/matrices.h"
@@ -6,8 +6,6 @@
 
 namespace gl {
 
-/// Where a program finds its pixels: a layer of an array texture, or a texture of its own.
-enum class Sampling { Array, Single };
 /// What a program draws.
 enum class Shape { Triangles, Points };
 
@@ -19,7 +17,7 @@ struct PointSizing {
 class Program {
  public:
   /// Throws PlatformError with the compiler's text.
-  Program(Sampling sampling, Shape shape);
+  explicit Program(Shape shape);
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;

@@ -8,9 +8,7 @@
 namespace gl {
 namespace {
 
-int DevicePixels(int pixels, double scale) {
-  return static_cast<int>(std::lround(pixels * scale));
-}
+int DevicePixels(int pixels, double scale) { return static_cast<int>(std::lround(pixels * scale)); }
 
 void CheckSize(int width, int height, int samples) {
   GLint greatest = 0, mostSamples = 0;
@@ -82,7 +80,8 @@ Image Target::Read() const {
   Image image(width_, height_);
   for (size_t y = 0; y < height; ++y) {
     const uint32_t* from = upsideDown.get() + (height - 1 - y) * width;
-    std::transform(from, from + width, image.pixels.begin() + static_cast<std::ptrdiff_t>(y * width),
+    std::transform(from, from + width,
+                   image.pixels.begin() + static_cast<std::ptrdiff_t>(y * width),
                    [](uint32_t pixel) { return pixel | 0xFF000000U; });
   }
   return image;

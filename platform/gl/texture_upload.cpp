@@ -14,13 +14,6 @@ void PrepareUpload() {
 
 }  // namespace
 
-void UploadTexture(const Image& image) {
-  PrepareUpload();
-  glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, 0);
-  glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, image.width, image.height, 0, kFormat, kType,
-               image.pixels.data());
-}
-
 void AllocateLayers(int width, int height, int layers) {
   PrepareUpload();
   glTexParameteri(GL_TEXTURE_2D_ARRAY, GL_TEXTURE_MAX_LEVEL, 0);

@@ -9,9 +9,6 @@ namespace gl {
 /// Frames after which a texture that nothing drew with is given up.
 inline constexpr uint64_t kFramesKept = 300;
 
-/// Gives the bound GL_TEXTURE_2D the picture, top row first.
-void UploadTexture(const Image& image);
-
 /// Storage for so many layers in the bound GL_TEXTURE_2D_ARRAY.
 void AllocateLayers(int width, int height, int layers);
 

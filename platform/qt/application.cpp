@@ -53,4 +53,8 @@ void Application::Build(::Window& window) {
   parts_->windows.push_back(std::make_unique<WindowView>(window));
 }
 
+void Application::Discard(const ::Window& window) {
+  std::erase_if(parts_->windows, [&window](const auto& view) { return view->Shows(window); });
+}
+
 }  // namespace qt

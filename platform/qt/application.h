@@ -29,6 +29,8 @@ class Application {
   /// must stay complete: controls and menu items added later are not seen. Throws
   /// std::invalid_argument for a kind of control without a widget.
   void Build(::Window& window);
+  /// Ends the real window; for a window object that ends before this one and the last Pump.
+  void Discard(const ::Window& window);
 
  private:
   struct Parts;

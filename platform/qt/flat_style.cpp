@@ -2,9 +2,10 @@
 
 #include <QAbstractItemView>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleOption>
 
-#include "platform/qt/theme.h"
+#include "platform/qt/colours.h"
 
 namespace qt {
 namespace {
@@ -14,6 +15,12 @@ constexpr QRgb kClear = 0;
 
 bool Enabled(const QStyleOption& option) { return option.state.testFlag(QStyle::State_Enabled); }
 bool Focused(const QStyleOption& option) { return option.state.testFlag(QStyle::State_HasFocus); }
+
+// A second outline would only add noise.
+bool ShowsFocusItself(const QWidget* widget) {
+  return qobject_cast<const QAbstractItemView*>(widget) != nullptr ||
+         qobject_cast<const QPushButton*>(widget) != nullptr;
+}
 
 void DrawBox(QPainter& painter, const QRectF& area, QRgb fill, QRgb line) {
   painter.save();
@@ -125,8 +132,7 @@ void FlatStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_IndicatorCheckBox:
       return DrawCheckBox(*painter, *option);
     case PE_FrameFocusRect:
-      // Selected rows already stand out; a second outline would only add noise.
-      if (qobject_cast<const QAbstractItemView*>(widget) != nullptr) return;
+      if (ShowsFocusItself(widget)) return;
       return DrawBox(*painter, option->rect, kClear, colours::kAccent);
     case PE_Frame:
       return DrawBox(*painter, option->rect, kClear,

@@ -19,10 +19,10 @@ void EventPump::Pump(double waitMilliseconds) {
   QAbstractEventDispatcher& events = *QAbstractEventDispatcher::instance();
   if (events.processEvents(QEventLoop::AllEvents) || waitMilliseconds <= 0.0) return;
 
-  // The alarm counts whole milliseconds; the rest of the last one is slept away.
-  const int whole = static_cast<int>(wait.count());
-  if (whole > 0) {
-    alarm_.start(whole);
+  // The alarm counts whole milliseconds and may be one late; what it leaves is slept away exactly.
+  const int early = static_cast<int>(wait.count()) - 1;
+  if (early > 0) {
+    alarm_.start(early);
     events.processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     const bool woken = alarm_.isActive();
     alarm_.stop();

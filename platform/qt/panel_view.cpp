@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "platform/qt/theme.h"
+#include "platform/qt/colours.h"
 
 namespace qt {
 

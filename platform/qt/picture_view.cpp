@@ -5,8 +5,8 @@
 #include <QPainter>
 
 #include "platform/error.h"
+#include "platform/qt/colours.h"
 #include "platform/qt/images.h"
-#include "platform/qt/theme.h"
 #include "platform/qt/virtual_keys.h"
 
 namespace qt {

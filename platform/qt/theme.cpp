@@ -3,6 +3,7 @@
 #include <QPalette>
 #include <QToolTip>
 
+#include "platform/qt/colours.h"
 #include "platform/qt/flat_style.h"
 
 namespace qt {

@@ -99,8 +99,8 @@ void WindowView::Present() {
   // On a small screen the title and the menus matter most.
   place.moveTop(std::max(place.top(), room.top()));
   move(place.topLeft());
+  if (isVisible()) raise();
   show();
-  raise();
   activateWindow();
 }
 

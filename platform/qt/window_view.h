@@ -14,6 +14,7 @@ class WindowView : public QWidget {
  public:
   explicit WindowView(::Window& window);
   ~WindowView() override;
+  bool Shows(const ::Window& window) const { return &window == &window_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;

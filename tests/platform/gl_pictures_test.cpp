@@ -238,8 +238,7 @@ TEST_P(Pictures, WorldThenViewThenProjection) {
   world.m[3] = {1, 2, 30, 1};
   device.SetTransform(Transform::World, world);
   device.SetTransform(Transform::View, d3dx::LookAtLH({0, 0, 10}, {0, 0, 20}, {0, 1, 0}));
-  device.SetTransform(Transform::Projection,
-                      d3dx::PerspectiveFovLH(1.5707964F, 2, 1, 100));
+  device.SetTransform(Transform::Projection, d3dx::PerspectiveFovLH(1.5707964F, 2, 1, 100));
   // In the plane x = 0 of the model; scaling comes first, so turning leaves its size as it is.
   const auto corner = [](float z, float y) { return Vertex{0, y, z, 0xFFFFFFFF, 0, 0, 0}; };
   const std::array<Vertex, 4> strip = {corner(-4, 4), corner(4, 4), corner(-4, 0), corner(4, 0)};

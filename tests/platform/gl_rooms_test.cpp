@@ -11,8 +11,8 @@
 namespace {
 
 VertexBufferPtr BoxBuffer(float halfSide) {
-  const std::array<Vertex, 2> corners = {{{-halfSide, -halfSide, -halfSide, 0, 0, 0, 0},
-                                          {halfSide, halfSide, halfSide, 0, 0, 0, 0}}};
+  const std::array<Vertex, 2> corners = {
+      {{-halfSide, -halfSide, -halfSide, 0, 0, 0, 0}, {halfSide, halfSide, halfSide, 0, 0, 0, 0}}};
   return std::make_shared<VertexBufferObject>(std::span<const Vertex>(corners));
 }
 
@@ -43,8 +43,7 @@ TEST(Frustum, NeverLosesWhatReachesIntoTheView) {
   for (int i = 0; i < 20000; ++i) {
     const float side = size(random), x = wide(random), y = wide(random), z = wide(random);
     const auto box = BoxBuffer(side);
-    const Matrix4 world =
-        d3dx::Multiply(d3dx::RotationY(turn(random)), Translation(x, y, z));
+    const Matrix4 world = d3dx::Multiply(d3dx::RotationY(turn(random)), Translation(x, y, z));
     if (frustum.MaySee(*box, world)) continue;
     ++culled;
     for (int corner = 0; corner < 27; ++corner) {

@@ -78,10 +78,11 @@ inline TexturePtr PlainTexture(uint32_t colour) { return MakeTexture(Image(4, 4,
 /// A strip over the rectangle; the texture covers it `repeats` times each way.
 inline void DrawRectangle(Device& device, float left, float top, float right, float bottom, float z,
                           uint32_t colour, float repeats = 1) {
-  const std::array<ScreenVertex, 4> vertices = {{{left, top, z, 1, colour, 0, 0, 0},
-                                                 {right, top, z, 1, colour, 0, repeats, 0},
-                                                 {left, bottom, z, 1, colour, 0, 0, repeats},
-                                                 {right, bottom, z, 1, colour, 0, repeats, repeats}}};
+  const std::array<ScreenVertex, 4> vertices = {
+      {{left, top, z, 1, colour, 0, 0, 0},
+       {right, top, z, 1, colour, 0, repeats, 0},
+       {left, bottom, z, 1, colour, 0, 0, repeats},
+       {right, bottom, z, 1, colour, 0, repeats, repeats}}};
   device.SetVertexFormat(VertexFormat::Screen);
   device.SetStreamSource(device.CreateVertexBuffer(vertices), sizeof(ScreenVertex));
   device.DrawPrimitive(Primitive::TriangleStrip, 0, 2);

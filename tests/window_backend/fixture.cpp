@@ -89,7 +89,7 @@ ShownWindow::ShownWindow() {
 }
 
 ShownWindow::~ShownWindow() {
-  window_.Unload();
+  Toolkit().Discard(window_);
   Settle();
 }
 

@@ -1,7 +1,7 @@
+#include "platform/d3dx.h"
+
 #include <algorithm>
 #include <system_error>
-
-#include "platform/d3dx.h"
 
 namespace d3dx {
 namespace {
@@ -58,6 +58,7 @@ TexturePtr Library::CreateTextureFromFileEx(const std::string& path,
       begin, end, [&](const auto& entry) { return entry.second.settings == settings; });
   if (found != end && found->second.time == time) return found->second.texture;
 
+  if (!fs::is_regular_file(path)) throw PlatformError(path + ": not a file");
   Image image = decoder_(path);
   // The key is exact, so it is applied before anything mixes neighbouring pixels.
   if (settings.colourKey != 0) std::ranges::replace(image.pixels, settings.colourKey, 0U);
