@@ -36,7 +36,7 @@ void frmAbout::Form_Load() {
   lblVersion.Caption("Version " + std::to_string(kMajor) + "." + std::to_string(kMinor) + "." +
                      std::to_string(kRevision));
   picIcon.accessibleName = title;
-  picIcon.file = paths::InInstallFolder("\\misc\\icon.png");
+  picIcon.picture = paths::InInstallFolder("\\misc\\icon.png");
 }
 
 void frmAbout::Show() { window.Show(); }

@@ -10,7 +10,7 @@ class frmAbout {
   void Show();
 
   Window window;
-  Picture picIcon;
+  PictureArea picIcon;
   Label lblTitle, lblVersion;
   Button cmdOK;
 

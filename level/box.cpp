@@ -95,6 +95,9 @@ void Resize(Vertices& vertices, Axis axis, double sideFactor, double topFactor,
     const bool alongU = face == Left || face == Right ? axis == Axis::Z : axis == Axis::X;
     const bool alongV = face == Top ? axis == Axis::Z : axis == Axis::Y;
     if (!alongU && !alongV) continue;
+    // The whole vertex but its other coordinate: the block of a new track is never created.
+    const Vector3& position = kPositions[i];
+    v = DirectX::MakeVertex(position.x, position.y, position.z, v.colour, 0, v.tu, v.tv);
     if (alongU) v.tu = TextureU(v, face, factors);
     if (alongV) v.tv = TextureV(v, face, factors);
     v.colour = face == Top ? kTopColour : sideColours[v.y == 1 ? 1 : 0];

@@ -37,8 +37,8 @@ void StretchSides(Vertices& vertices, const Factors& factors);
 void StretchTop(Vertices& vertices, const Factors& factors);
 
 enum class Axis { X, Y, Z };
-/// Rewrites the one coordinate that runs along `axis` on the faces that span it, and colours the
-/// rewritten side vertices by their height (0 or 1), the top ones white.
+/// Rewrites the vertices of the faces that span `axis`: positions, the texture coordinate that runs
+/// along the axis, and colours, the sides by their height (0 or 1), the top white.
 void Resize(Vertices& vertices, Axis axis, double sideFactor, double topFactor,
             const std::array<uint32_t, 2>& sideColours);
 

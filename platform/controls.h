@@ -165,12 +165,6 @@ class PictureArea : public Control {
   void UserPresses(int button, int shift, float x, float y) const;
 };
 
-/// A still picture from a file.
-class Picture : public Control {
- public:
-  std::string file;  ///< full path; nothing is shown when it cannot be read
-};
-
 class MenuItem : public Captioned {
  public:
   std::string shortcut;  ///< "Ctrl+O", "F2"; empty: none

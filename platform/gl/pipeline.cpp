@@ -26,11 +26,12 @@ GLint FilterName(Filter filter) { return filter == Filter::Linear ? GL_LINEAR : 
 
 /// What no device state changes, but another user of the context may have.
 void SetFixedStates() {
-  for (const GLenum off : {GL_SCISSOR_TEST, GL_STENCIL_TEST, GL_DITHER, GL_COLOR_LOGIC_OP,
-                           GL_POLYGON_OFFSET_FILL, GL_SAMPLE_ALPHA_TO_COVERAGE, GL_SAMPLE_COVERAGE,
-                           GL_FRAMEBUFFER_SRGB, GL_DEPTH_CLAMP, GL_RASTERIZER_DISCARD}) {
-    glDisable(off);
-  }
+  constexpr GLenum kOff[] = {
+      GL_SCISSOR_TEST,      GL_STENCIL_TEST,        GL_DITHER,
+      GL_COLOR_LOGIC_OP,    GL_POLYGON_OFFSET_FILL, GL_SAMPLE_ALPHA_TO_COVERAGE,
+      GL_SAMPLE_COVERAGE,   GL_FRAMEBUFFER_SRGB,    GL_DEPTH_CLAMP,
+      GL_RASTERIZER_DISCARD};
+  for (const GLenum off : kOff) glDisable(off);
   glEnable(GL_PROGRAM_POINT_SIZE);
   glPointParameteri(GL_POINT_SPRITE_COORD_ORIGIN, GL_UPPER_LEFT);
   glEnable(GL_CULL_FACE);
@@ -54,9 +55,8 @@ DrawMode ModeOf(const Command& draw) {
 
 Pipeline::Pipeline(const TargetSettings& settings)
     : settings_(settings), target_(settings), triangles_(Shape::Triangles), points_(Shape::Points) {
-  for (const GLenum direction : {GL_TEXTURE_WRAP_S, GL_TEXTURE_WRAP_T}) {
-    glSamplerParameteri(sampler_.Name(), direction, GL_REPEAT);
-  }
+  glSamplerParameteri(sampler_.Name(), GL_TEXTURE_WRAP_S, GL_REPEAT);
+  glSamplerParameteri(sampler_.Name(), GL_TEXTURE_WRAP_T, GL_REPEAT);
 }
 
 void Pipeline::BeginFrame(const CommandList& frame) {

@@ -29,7 +29,6 @@ struct Application::Parts {
   EventPump pump;
   DialogBoxes dialogs;
   DesktopShell desktop;
-  GraphicsRoot root;
   std::vector<std::unique_ptr<WindowView>> windows;
 
   Parts(int& argc, char** argv) : toolkit(argc, argv) {}
@@ -47,7 +46,7 @@ Application::~Application() = default;
 MessagePump& Application::Pump() { return parts_->pump; }
 dialogs::Backend& Application::Dialogs() { return parts_->dialogs; }
 Shell& Application::Desktop() { return parts_->desktop; }
-PlatformRoot& Application::Root() { return parts_->root; }
+std::unique_ptr<PlatformRoot> Application::CreateRoot() { return std::make_unique<GraphicsRoot>(); }
 
 void Application::Build(::Window& window) {
   parts_->windows.push_back(std::make_unique<WindowView>(window));

@@ -23,7 +23,7 @@ class Application {
   MessagePump& Pump();
   dialogs::Backend& Dialogs();
   Shell& Desktop();
-  PlatformRoot& Root();
+  std::unique_ptr<PlatformRoot> CreateRoot();
 
   /// Makes the real window, hidden, and fills in the window's show, unload and takeFocus. `window`
   /// must stay complete: controls and menu items added later are not seen. Throws

@@ -58,6 +58,13 @@ TEST_F(EditorTest, StartsWithANewTrack) {
   EXPECT_EQ(block.scaleZ(), 2);
   EXPECT_EQ(block.GetTextureD(), "_default.bmp");
   EXPECT_EQ(block.GeometryVertices()[0].colour, 0x888888U);
+  clsblock same;
+  same.create(0, 0, 0, 1, 1, 1);
+  same.scaleX(2);
+  same.scaleY(1);
+  same.scaleZ(2);
+  same.SelectBlock();
+  EXPECT_EQ(block.GeometryVertices(), same.GeometryVertices());
   EXPECT_TRUE(Document.ObjectSelected);
   EXPECT_TRUE(Document.TrackLoaded);
   EXPECT_EQ(Document.BackgroundName.Trimmed(), "_default.jpg");

@@ -8,7 +8,7 @@ namespace {
 class Graphics : public fixture::ShownWindow {
  protected:
   void SetUp() override {
-    adapter_ = fixture::Toolkit().Root().CreateD3D();
+    adapter_ = fixture::Toolkit().CreateRoot()->CreateD3D();
     try {
       adapter_->GetDeviceCaps();
     } catch (const PlatformError& refusal) {

@@ -52,7 +52,7 @@ TEST(ScanCodes, InputCodesOfTheCar) {
 }
 
 TEST(KeyboardInput, OnlyTheSystemKeyboardExists) {
-  const auto input = fixture::Toolkit().Root().CreateDirectInput();
+  const auto input = fixture::Toolkit().CreateRoot()->CreateDirectInput();
   EXPECT_THROW(input->CreateDevice("GUID_SysMouse"), PlatformError);
   const auto keyboard = input->CreateDevice("GUID_SysKeyboard");
   keyboard->SetCooperativeLevel(10);

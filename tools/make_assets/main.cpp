@@ -11,6 +11,7 @@
 #include "tools/make_assets/models.h"
 #include "tools/make_assets/readme.h"
 #include "tools/make_assets/textures.h"
+#include "tools/make_assets/tracks.h"
 
 namespace {
 
@@ -45,6 +46,7 @@ void WriteAll(const fs::path& out) {
   Write(out / "misc", art::Explosion());
   Write(out / "misc", art::CutOuts());
   Write(out / "misc", art::Icon());
+  for (const art::TrackFile& track : art::Tracks()) Write(out / "levels" / track.file, track.bytes);
   Write(out / "readme.txt", art::ReadmeText());
 }
 

@@ -109,6 +109,10 @@ misc          explosion, sparks, shadow and icon
 
 }  // namespace
 
-std::string ReadmeText() { return std::string(kStart) + kKeys; }
+std::string ReadmeText() {
+  std::string text(kStart);
+  text += kKeys;
+  return text;
+}
 
 }  // namespace art

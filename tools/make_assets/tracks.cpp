@@ -45,13 +45,13 @@ Place Step(const Place& at, const Place& step, int times) {
   return {at.x + factor * step.x, at.y + factor * step.y, at.z + times * step.z};
 }
 
-/// Hands `add` every place of a row of objects this wide.
+/// Hands `add` every place of a row of objects this wide, and whether it is a mirrored one.
 template <typename Add>
 void Lay(const Place& first, const Repeat& repeat, float width, Add add) {
   for (int i = 0; i < repeat.count; ++i) {
     const Place at = Step(first, repeat.step, i);
-    add(at);
-    if (repeat.mirrored) add(Place{-at.x - width, at.y, at.z});
+    add(at, false);
+    if (repeat.mirrored) add(Place{-at.x - width, at.y, at.z}, true);
   }
 }
 
@@ -85,10 +85,8 @@ Rises Mirror(Rises rises) {
 }
 
 void AddRamps(LevelFile& level, const RampRow& row) {
-  bool second = false;
-  Lay(row.at, row.repeat, row.size.x, [&](const Place& at) {
-    AddRamp(level, row, at, second ? Mirror(row.rises) : row.rises);
-    second = row.repeat.mirrored && !second;
+  Lay(row.at, row.repeat, row.size.x, [&](const Place& at, bool mirrored) {
+    AddRamp(level, row, at, mirrored ? Mirror(row.rises) : row.rises);
   });
 }
 
@@ -99,14 +97,14 @@ TrackFile Build(const Track& track) {
   level.BackgroundName = track.backdrop;
   level.StoredGravity = track.lowGravity ? kStoredLowGravity : kStoredNormalGravity;
   for (const BoxRow& row : track.boxes) {
-    Lay(row.at, row.repeat, row.size.x, [&](const Place& at) {
+    Lay(row.at, row.repeat, row.size.x, [&](const Place& at, bool) {
       level.Blocks.push_back(Box(level, row.look, at, row.size));
     });
   }
   for (const PlatformRow& row : track.platforms) AddPlatform(level, row);
   for (const RampRow& row : track.ramps) AddRamps(level, row);
   for (const StarRow& row : track.stars) {
-    Lay(row.at, row.repeat, 0, [&](const Place& at) {
+    Lay(row.at, row.repeat, 0, [&](const Place& at, bool) {
       level.Stars.push_back({at.x, at.y, static_cast<float>(at.z)});
     });
   }

@@ -27,23 +27,23 @@ struct Size {
 /// How a row goes on: `count` objects, each moved by the step; mirrored ones stand at -x as well.
 struct Repeat {
   int count = 1;
-  Place step;
+  Place step = {};
   bool mirrored = false;
 };
 
 struct BoxRow {
   Look look = Look::Plain;
-  Place at;
-  Size size;
-  Repeat repeat;
+  Place at = {};
+  Size size = {};
+  Repeat repeat = {};
 };
 
 enum class Heading : uint8_t { Left = 2, Right = 3 };
 /// Its speed is in hundredths of a unit per frame; one that does not loop jumps back to its start.
 struct PlatformRow {
   Look look = Look::Concrete;
-  Place at;
-  Size size;
+  Place at = {};
+  Size size = {};
   uint8_t speed = 5;
   Heading heading = Heading::Right;
   uint8_t distance = 5;
@@ -54,15 +54,15 @@ struct PlatformRow {
 enum class Rises : uint8_t { Forward, Right, Back, Left };
 struct RampRow {
   Look look = Look::Plain;
-  Place at;  ///< whole numbers, as ramps hold them
-  Size size;
+  Place at = {};  ///< whole numbers, as ramps hold them
+  Size size = {};
   Rises rises = Rises::Forward;
-  Repeat repeat;
+  Repeat repeat = {};
 };
 
 struct StarRow {
-  Place at;
-  Repeat repeat;
+  Place at = {};
+  Repeat repeat = {};
 };
 
 struct Track {

@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds into build/ and starts the editor.
+set -euo pipefail
+cd "$(dirname "$0")"
+scripts/install-packages.sh
+cmake --preset release -DBUILD_TESTING=OFF >build-configure.log 2>&1 || { cat build-configure.log; exit 1; }
+rm -f build-configure.log
+cmake --build --preset release
+exec build/bin/vorbilax-editor "$@"
