@@ -1,5 +1,6 @@
 #include "platform/device.h"
 
+#include <atomic>
 #include <bit>
 
 #include "platform/d3dx_maths.h"
@@ -24,7 +25,30 @@ Device::Device(std::unique_ptr<Executor> executor)
     : executor_(std::move(executor)),
       world_(d3dx::Identity()),
       view_(d3dx::Identity()),
-      projection_(d3dx::Identity()) {}
+      projection_(d3dx::Identity()) {
+  StartFrame();
+}
+
+void Device::StartFrame() {
+  static std::atomic<uint64_t> next{1};
+  frameNumber_ = next++;
+  // What was set stays set, so it must outlive the frame that set it.
+  const TexturePtr texture = texture_ ? texture_->shared_from_this() : nullptr;
+  const VertexBufferPtr stream = stream_ ? stream_->shared_from_this() : nullptr;
+  frame_.commands.clear();
+  frame_.worlds.clear();
+  frame_.cameras.clear();
+  frame_.states.clear();
+  frame_.resources.clear();
+  worldChanged_ = cameraChanged_ = statesChanged_ = true;
+  KeepAlive(texture);
+  KeepAlive(stream);
+}
+
+template <typename T>
+void Device::KeepAlive(const std::shared_ptr<const T>& resource) {
+  if (resource && resource->MarkFor(frameNumber_)) frame_.resources.push_back(resource);
+}
 
 void Device::Clear(uint32_t colour, float depth) {
   Command command;
@@ -43,13 +67,7 @@ void Device::EndScene() {
 
 void Device::Present() {
   if (executor_) executor_->Execute(frame_);
-  frame_.commands.clear();
-  frame_.worlds.clear();
-  frame_.cameras.clear();
-  frame_.states.clear();
-  frame_.resources.clear();
-  worldChanged_ = cameraChanged_ = statesChanged_ = true;
-  streamKept_ = textureKept_ = false;
+  StartFrame();
 }
 
 void Device::SetRenderState(RenderState state, bool on) {
@@ -122,10 +140,9 @@ const Matrix4& Device::GetTransform(Transform transform) const {
   return world_;
 }
 
-void Device::SetTexture(TexturePtr texture) {
-  if (texture == texture_) return;
-  texture_ = std::move(texture);
-  textureKept_ = false;
+void Device::SetTexture(const TexturePtr& texture) {
+  KeepAlive(texture);
+  texture_ = texture.get();
 }
 
 VertexBufferPtr Device::CreateVertexBuffer(std::span<const Vertex> vertices) const {
@@ -136,32 +153,30 @@ VertexBufferPtr Device::CreateVertexBuffer(std::span<const ScreenVertex> vertice
   return std::make_shared<VertexBufferObject>(vertices);
 }
 
-void Device::SetStreamSource(VertexBufferPtr buffer, size_t stride) {
+void Device::SetStreamSource(const VertexBufferPtr& buffer, size_t stride) {
   if (buffer && stride != static_cast<size_t>(buffer->Format())) {
     throw PlatformError("stream stride differs from the buffer's vertex");
   }
-  stream_ = std::move(buffer);
-  streamKept_ = false;
+  KeepAlive(buffer);
+  stream_ = buffer.get();
 }
 
 void Device::DrawPrimitive(Primitive primitive, uint32_t first, uint32_t primitiveCount) {
   const uint32_t count = VerticesOf(primitive, primitiveCount);
-  if (!stream_) throw PlatformError("draw without a vertex buffer");
+  if (stream_ == nullptr) throw PlatformError("draw without a vertex buffer");
   if (stream_->Format() != format_ || first + count > stream_->VertexCount()) {
     throw PlatformError("draw past the end of the vertex buffer");
   }
-  if (!streamKept_) frame_.resources.push_back(stream_);
-  streamKept_ = true;
-  Record(primitive, stream_, first, count);
+  Record(primitive, *stream_, first, count);
 }
 
 void Device::DrawPrimitiveUP(std::span<const PointVertex> points) {
-  const auto buffer = std::make_shared<VertexBufferObject>(points);
-  frame_.resources.push_back(buffer);
-  Record(Primitive::PointList, buffer, 0, static_cast<uint32_t>(points.size()));
+  const VertexBufferPtr buffer = std::make_shared<VertexBufferObject>(points);
+  KeepAlive(buffer);
+  Record(Primitive::PointList, *buffer, 0, static_cast<uint32_t>(points.size()));
 }
 
-void Device::Record(Primitive primitive, const VertexBufferPtr& buffer, uint32_t first,
+void Device::Record(Primitive primitive, const VertexBufferObject& buffer, uint32_t first,
                     uint32_t count) {
   if (!inScene_) throw PlatformError("draw outside a scene");
   if (worldChanged_) frame_.worlds.push_back(world_);
@@ -170,16 +185,14 @@ void Device::Record(Primitive primitive, const VertexBufferPtr& buffer, uint32_t
     frame_.states.push_back(states_);
   }
   worldChanged_ = cameraChanged_ = statesChanged_ = false;
-  if (!textureKept_ && texture_) frame_.resources.push_back(texture_);
-  textureKept_ = true;
 
   Command command;
   command.primitive = primitive;
-  command.format = buffer->Format();
+  command.format = buffer.Format();
   command.firstVertex = first;
   command.vertexCount = count;
-  command.buffer = buffer.get();
-  command.texture = texture_.get();
+  command.buffer = &buffer;
+  command.texture = texture_;
   command.world = static_cast<uint32_t>(frame_.worlds.size() - 1);
   command.camera = static_cast<uint32_t>(frame_.cameras.size() - 1);
   command.states = static_cast<uint32_t>(frame_.states.size() - 1);

@@ -45,12 +45,12 @@ class Device {
   void SetTransform(Transform transform, const Matrix4& matrix);
   const Matrix4& GetTransform(Transform transform) const;
   void SetVertexFormat(VertexFormat format) { format_ = format; }
-  void SetTexture(TexturePtr texture);
+  void SetTexture(const TexturePtr& texture);
   void SetMaterial(const Material& material) { material_ = material; }
 
   VertexBufferPtr CreateVertexBuffer(std::span<const Vertex> vertices) const;
   VertexBufferPtr CreateVertexBuffer(std::span<const ScreenVertex> vertices) const;
-  void SetStreamSource(VertexBufferPtr buffer, size_t stride);
+  void SetStreamSource(const VertexBufferPtr& buffer, size_t stride);
   /// Draws `primitiveCount` points or triangles of stream 0 from vertex `first`. Throws
   /// PlatformError when the stream does not hold them or is of another vertex format.
   void DrawPrimitive(Primitive primitive, uint32_t first, uint32_t primitiveCount);
@@ -61,7 +61,11 @@ class Device {
   const Material& CurrentMaterial() const { return material_; }
 
  private:
-  void Record(Primitive primitive, const VertexBufferPtr& buffer, uint32_t first, uint32_t count);
+  void StartFrame();
+  void Record(Primitive primitive, const VertexBufferObject& buffer, uint32_t first,
+              uint32_t count);
+  template <typename T>
+  void KeepAlive(const std::shared_ptr<const T>& resource);
 
   std::unique_ptr<Executor> executor_;
   CommandList frame_;
@@ -69,9 +73,10 @@ class Device {
   Material material_;
   Matrix4 world_, view_, projection_;
   VertexFormat format_ = VertexFormat::World;
-  TexturePtr texture_;
-  VertexBufferPtr stream_;
+  // Kept alive by the frame's resources.
+  const TextureObject* texture_ = nullptr;
+  const VertexBufferObject* stream_ = nullptr;
+  uint64_t frameNumber_ = 0;
   bool worldChanged_ = true, cameraChanged_ = true, statesChanged_ = true;
-  bool streamKept_ = false, textureKept_ = false;
   bool inScene_ = false;
 };

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "platform/image.h"
@@ -13,8 +14,18 @@
 /// The vertex layouts, by the bytes of one vertex.
 enum class VertexFormat : uint8_t { World = 28, Screen = 32, Point = 24 };
 
+/// Remembers the frame that keeps a resource alive, so that each frame does so once.
+class FrameMark {
+ public:
+  /// True the first time it is called with this frame.
+  bool MarkFor(uint64_t frame) const { return std::exchange(frame_, frame) != frame; }
+
+ private:
+  mutable uint64_t frame_ = 0;
+};
+
 /// A texture with its chain of mip levels, each half the size of the one before down to 1 x 1.
-class TextureObject {
+class TextureObject : public FrameMark, public std::enable_shared_from_this<TextureObject> {
  public:
   enum class Format : uint8_t { Colour32, Colour16Alpha1 };
 
@@ -36,7 +47,8 @@ class TextureObject {
 using TexturePtr = std::shared_ptr<const TextureObject>;
 
 /// A managed vertex buffer: its bytes live in system memory beside their bounding box.
-class VertexBufferObject {
+class VertexBufferObject : public FrameMark,
+                           public std::enable_shared_from_this<VertexBufferObject> {
  public:
   explicit VertexBufferObject(std::span<const Vertex> vertices);
   explicit VertexBufferObject(std::span<const ScreenVertex> vertices);

@@ -22,7 +22,7 @@ constexpr BoxRow kBoxes[] = {
     {Grass, {-9, -0.5F, 6}, {4, 1, 6}, {.count = 5, .step = {0, 0, 24}, .mirrored = true}},
     {Wood, {-7.25F, 0.5F, 8}, {0.5F, 1.5F, 0.5F},
      {.count = 5, .step = {0, 0, 24}, .mirrored = true}},
-    {Checker, {-8, 2, 7}, {2, 2, 2}, {.count = 5, .step = {0, 0, 24}, .mirrored = true}},
+    {Leaves, {-8, 2, 7}, {2, 2, 2}, {.count = 5, .step = {0, 0, 24}, .mirrored = true}},
     // A village
     {Building, {-7, 0, 22}, {3, 3, 4}, {.count = 4, .step = {0, 0, 24}, .mirrored = true}},
 };

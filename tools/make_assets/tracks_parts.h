@@ -10,7 +10,7 @@ namespace art::tracks {
 enum class Look : uint8_t {
   // Driven on
   Plain, Road, Stripes, Grass, Checker, Wood, Stone, Marble, Tiles, Metal, Neon, Hexagons, Sand,
-  Brick, Concrete, Gold, Hazard, Lava, Water,
+  Brick, Concrete, Gold, Hazard, Lava, Leaves,
   // Kinds of their own
   Win, JumpPad, Ice, Falling, Turbo, Kill, Building, Tower,
 };
