@@ -13,6 +13,7 @@ std::vector<std::string> ResolveTextures(const std::vector<std::string>& names) 
   const auto files = paths::FileNames(Document.TextureDir);
   const std::unordered_set<std::string> existing(files.begin(), files.end());
   std::vector<std::string> resolved;
+  resolved.reserve(names.size());
   for (const std::string& name : names) {
     resolved.push_back(existing.contains(name) ? name : kDefaultTexture);
   }

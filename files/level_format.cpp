@@ -82,7 +82,7 @@ std::vector<Record> ReadRecords(LevelBytesReader& in, const char* countField, si
                                 Record (*read)(LevelBytesReader&, size_t)) {
   const int32_t count = in.Count(countField, recordSize, leastCount);
   std::vector<Record> records;
-  records.reserve(static_cast<size_t>(count + 1));
+  records.reserve(static_cast<size_t>(count) + 1);
   for (int32_t i = 0; i <= count; ++i) records.push_back(read(in, tableSize));
   return records;
 }

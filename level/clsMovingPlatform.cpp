@@ -22,7 +22,7 @@ void clsMovingPlatform::Zpos(float NewVal) {
   if (NewVal > -1.0) position_.z = StartPos_.z = InitialPos_.z = NewVal;
 }
 
-void clsMovingPlatform::Texture(std::string Name, const std::string& face,
+void clsMovingPlatform::Texture(const std::string& Name, const std::string& face,
                                 const std::string& TextureDir) {
   LoadTexture(Name, face, TextureDir);
 }

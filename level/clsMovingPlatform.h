@@ -43,7 +43,7 @@ class clsMovingPlatform : public BoxObject {
   void MloopBack(bool value) { MloopBack_ = value ? 255 : 0; }
 
   /// As a block's; a platform's faces are never animated.
-  void Texture(std::string Name, const std::string& face, const std::string& TextureDir);
+  void Texture(const std::string& Name, const std::string& face, const std::string& TextureDir);
   void draw() { DrawBox(); }
 
   /// One step of motion.

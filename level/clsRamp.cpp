@@ -58,12 +58,13 @@ float clsRamp::GetGradient() const {
   return ToSingle(rotateVal_ < 2 ? gradient : -gradient);
 }
 
-void clsRamp::Texture(std::string Name, const std::string& face, const std::string& TextureDir) {
+void clsRamp::Texture(const std::string& Name, const std::string& face,
+                      const std::string& TextureDir) {
   const int index = box::FaceIndex(face);
   if (index != 0 && index != 1) return;
   const auto slot = static_cast<size_t>(index);
   Textures_[slot] = DirectX::D3DX->CreateTextureFromFile(TextureDir + Name);
-  FaceTextureNames_[slot] = std::move(Name);
+  FaceTextureNames_[slot] = Name;
 }
 
 void clsRamp::SelectRamp() {

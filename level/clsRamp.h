@@ -39,7 +39,7 @@ class clsRamp {
 
   /// Face "A" is the slope, "B" sides and riser; any other letter does nothing. Throws
   /// PlatformError, leaving the face as it was, when the file cannot be loaded.
-  void Texture(std::string Name, const std::string& face, const std::string& TextureDir);
+  void Texture(const std::string& Name, const std::string& face, const std::string& TextureDir);
   const std::string& GetTextureA() const { return FaceTextureNames_[0]; }
   const std::string& GetTextureB() const { return FaceTextureNames_[1]; }
 

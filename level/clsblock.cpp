@@ -32,7 +32,8 @@ void clsblock::Zpos(int32_t NewVal) {
   if (NewVal > -1) position_.z = ToSingle(NewVal);
 }
 
-void clsblock::Texture(std::string Name, const std::string& face, const std::string& TextureDir) {
+void clsblock::Texture(const std::string& Name, const std::string& face,
+                       const std::string& TextureDir) {
   const int index = LoadTexture(Name, face, TextureDir);
   if (index < 0) return;
   AnimatedFaces_[static_cast<size_t>(index)] = AnimatedTextures::IsAnimatedTexture(Name);

@@ -39,7 +39,7 @@ class clsblock : public BoxObject {
 
   /// Loads TextureDir & Name onto the face with this letter; any other letter does nothing. Throws
   /// PlatformError, leaving the face as it was, when the file cannot be loaded.
-  void Texture(std::string Name, const std::string& face, const std::string& TextureDir);
+  void Texture(const std::string& Name, const std::string& face, const std::string& TextureDir);
   /// Puts the front texture on the device's stage 0.
   void SETTEXTURE() const;
   /// Moves every animated face to its next frame.

@@ -1,6 +1,7 @@
 #include "platform/d3dx.h"
 
 #include <algorithm>
+#include <cmath>
 #include <system_error>
 
 namespace d3dx {
@@ -20,7 +21,7 @@ uint32_t Mix(uint32_t a, uint32_t b, double t) {
   uint32_t mixed = 0;
   for (unsigned shift = 0; shift < 32; shift += 8) {
     const double from = (a >> shift) & 0xFFU, to = (b >> shift) & 0xFFU;
-    mixed |= static_cast<uint32_t>(from + (to - from) * t + 0.5) << shift;
+    mixed |= static_cast<uint32_t>(std::lround(from + (to - from) * t)) << shift;
   }
   return mixed;
 }
