@@ -38,6 +38,9 @@ class frmMain {
   void MovePlatforms();
   /// The per-frame poll of held keys.
   void ProcessKeyboard();
+  /// A key-down message; afterwards the code is one that no control acts on.
+  void Form_KeyDown(int16_t& KeyCode, int Shift);
+  void Form_KeyUp();
 
   MainControls controls;
   frmAbout about;
@@ -52,6 +55,10 @@ class frmMain {
 
   // frmMain_events.cpp: wires controls to handlers
   void ConnectEvents();
+  void ConnectFileAndModeItems();
+  void ConnectEditItems();
+  void ConnectInsertItems();
+  void ConnectOtherItems();
 
   // frmMain_track.cpp: file, background, gravity, camera and help commands
   void mnu_load_Click();
@@ -73,6 +80,7 @@ class frmMain {
   Services services_;
   TemporaryTrack temporaryTrack_;
   bool Running_ = false;
+  bool KeyReleased_ = false;  ///< a key came up since the last command that runs once per press
   int64_t CounterFrequency_ = 1;
   int64_t LastFrameCount_ = 0;
   int64_t NowCount_ = 0;

@@ -45,12 +45,30 @@ class NullEditorTest : public ::testing::Test {
     for (const char* name : {"textures", "backgrounds", "models", "skins", "levels", "misc"}) {
       fs::create_directory(folder / name);
     }
-    for (const char* name :
-         {"textures/_default.bmp", "textures/a.bmp", "textures/B.bmp", "textures/\xC3\xBC.bmp",
-          "textures/AnimationTest_0.bmp", "textures/AnimationTest_1.bmp",
-          "textures/AnimationTest_2.bmp", "textures/AnimationTest_3.bmp", "textures/notes.txt",
-          "backgrounds/_default.jpg", "backgrounds/bk001.jpg", "backgrounds/bk002.jpg",
-          "models/orb.x", "skins/StarSkin.bmp", "skins/StarSkin_selected.bmp"}) {
+    for (const char* name : {"textures/_default.bmp",
+                             "textures/a.bmp",
+                             "textures/B.bmp",
+                             "textures/\xC3\xBC.bmp",
+                             "textures/AnimationTest_0.bmp",
+                             "textures/AnimationTest_1.bmp",
+                             "textures/AnimationTest_2.bmp",
+                             "textures/AnimationTest_3.bmp",
+                             "textures/notes.txt",
+                             "textures/concrete.bmp",
+                             "textures/_WIN.bmp",
+                             "textures/red.bmp",
+                             "textures/Ice2.bmp",
+                             "textures/Blue With Yellow Dot.bmp",
+                             "textures/Red Cross on Grey.bmp",
+                             "textures/buildingFront.bmp",
+                             "textures/building Side.bmp",
+                             "textures/buildingTop.bmp",
+                             "backgrounds/_default.jpg",
+                             "backgrounds/bk001.jpg",
+                             "backgrounds/bk002.jpg",
+                             "models/orb.x",
+                             "skins/StarSkin.bmp",
+                             "skins/StarSkin_selected.bmp"}) {
       WriteBytes(folder / name, "");
     }
     // An empty file decodes to a white picture; any other content is damage.

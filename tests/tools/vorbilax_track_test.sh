@@ -5,7 +5,6 @@ programs=$1
 tool=$programs/vorbilax-track
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-export ASAN_OPTIONS=detect_leaks=0
 
 fail() {
   echo "FAILED: $*" >&2

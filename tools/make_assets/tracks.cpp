@@ -67,15 +67,15 @@ void AddPlatform(LevelFile& level, const PlatformRow& row) {
 
 void AddRamp(LevelFile& level, const RampRow& row, const Place& at, Rises rises) {
   const BoxLook& style = StyleOf(row.look);
-  level.Ramps.push_back({.Xpos = at.x,
-                         .Ypos = at.y,
-                         .Zpos = static_cast<float>(at.z),
-                         .scaleX = row.size.x,
-                         .scaleY = row.size.y,
-                         .scaleZ = row.size.z,
-                         .Textures = {TextureIndex(level, style.top),
-                                      TextureIndex(level, style.side)},
-                         .Rotation = static_cast<uint8_t>(rises)});
+  level.Ramps.push_back(
+      {.Xpos = at.x,
+       .Ypos = at.y,
+       .Zpos = static_cast<float>(at.z),
+       .scaleX = row.size.x,
+       .scaleY = row.size.y,
+       .scaleZ = row.size.z,
+       .Textures = {TextureIndex(level, style.top), TextureIndex(level, style.side)},
+       .Rotation = static_cast<uint8_t>(rises)});
 }
 
 /// The other side's ramp rises the other way.
@@ -97,9 +97,8 @@ TrackFile Build(const Track& track) {
   level.BackgroundName = track.backdrop;
   level.StoredGravity = track.lowGravity ? kStoredLowGravity : kStoredNormalGravity;
   for (const BoxRow& row : track.boxes) {
-    Lay(row.at, row.repeat, row.size.x, [&](const Place& at, bool) {
-      level.Blocks.push_back(Box(level, row.look, at, row.size));
-    });
+    Lay(row.at, row.repeat, row.size.x,
+        [&](const Place& at, bool) { level.Blocks.push_back(Box(level, row.look, at, row.size)); });
   }
   for (const PlatformRow& row : track.platforms) AddPlatform(level, row);
   for (const RampRow& row : track.ramps) AddRamps(level, row);

@@ -20,7 +20,9 @@ constexpr BoxRow kBoxes[] = {
     {Gold, {-4, 1, 119}, {1, 4, 1}, {.mirrored = true}},
     // Trees on floating islands
     {Grass, {-9, -0.5F, 6}, {4, 1, 6}, {.count = 5, .step = {0, 0, 24}, .mirrored = true}},
-    {Wood, {-7.25F, 0.5F, 8}, {0.5F, 1.5F, 0.5F},
+    {Wood,
+     {-7.25F, 0.5F, 8},
+     {0.5F, 1.5F, 0.5F},
      {.count = 5, .step = {0, 0, 24}, .mirrored = true}},
     {Leaves, {-8, 2, 7}, {2, 2, 2}, {.count = 5, .step = {0, 0, 24}, .mirrored = true}},
     // A village
@@ -31,14 +33,12 @@ constexpr StarRow kStars[] = {
     {{0, 1, 18}, {.count = 3, .step = {0, 0, 5}}},
     {{0, 3, 37}},
     {{0, 1, 48}, {.count = 2, .step = {0, 0, 6}}},
-    {{-2, 1, 78}, {.count = 2, .step = {0, 0, 4}, .mirrored = true}},
+    {{-2, 1, 74}, {.count = 2, .step = {0, 0, 4}, .mirrored = true}},
     {{0, 3, 93}},
 };
 
 }  // namespace
 
-Track FirstSteps() {
-  return {"1 First Steps.lvl", "_default.jpg", false, kBoxes, {}, {}, kStars};
-}
+Track FirstSteps() { return {"1 First Steps.lvl", "_default.jpg", false, kBoxes, {}, {}, kStars}; }
 
 }  // namespace art::tracks

@@ -30,7 +30,7 @@ constexpr BoxRow kBoxes[] = {
     {Gold, {2, 1, 215}, {1, 4, 1}},
     {Gold, {7, 1, 215}, {1, 4, 1}},
     // A forest on both sides
-    {Grass, {-11, -0.5F, 40}, {4, 1, 14}, {.count = 2, .step = {0, 0, 26}, .mirrored = true}},
+    {Grass, {-11, -0.5F, 40}, {4, 1, 42}, {.mirrored = true}},
     {Wood, {-9.25F, 0.5F, 42}, {0.5F, 2, 0.5F}, {.count = 5, .step = {0, 0, 9}, .mirrored = true}},
     {Leaves, {-10, 2, 41}, {2, 2, 2}, {.count = 5, .step = {0, 0, 9}, .mirrored = true}},
     {Grass, {5, -0.5F, 100}, {5, 1, 32}},
@@ -42,28 +42,26 @@ constexpr BoxRow kBoxes[] = {
 };
 
 constexpr RampRow kRamps[] = {
-    {Wood, {-3, 1, 70}, {6, 2, 6}, Rises::Forward},
-    {Wood, {-3, 1, 90}, {6, 2, 8}, Rises::Back},
-    {Stone, {-4, 1, 102}, {2, 1, 18}, Rises::Left},
-    {Stone, {-4, 1, 130}, {2, 1, 16}, Rises::Left},
+    {Stone, {-3, 1, 70}, {6, 2, 6}, Rises::Forward}, {Stone, {-3, 1, 90}, {6, 2, 8}, Rises::Back},
+    {Stone, {-4, 1, 102}, {2, 1, 18}, Rises::Left},  {Stone, {-4, 1, 130}, {2, 1, 16}, Rises::Left},
     {Stone, {2, 1, 154}, {2, 1, 26}, Rises::Right},
 };
 
 constexpr StarRow kStars[] = {
-    {{-4, 1, 19}, {.count = 2, .step = {0, 0, 4}}},
-    {{0, 1, 33}},
-    {{3, 1, 40}, {.count = 2, .step = {0, 0, 4}}},
-    {{0, 1, 60}, {.count = 2, .step = {0, 0, 5}}},
-    {{0, 3, 86}},
-    {{-6, 2, 124}, {.count = 2, .step = {0, 0, 5}}},
-    {{6, 2, 180}, {.count = 2, .step = {0, 0, 5}}},
+    {{-2, 1, 19}, {.count = 2, .step = {0, 0, 4}}},
+    {{0, 1, 34}},
+    {{2, 1, 40}, {.count = 2, .step = {0, 0, 4}}},
+    {{0, 1, 65}},
+    {{0, 3, 88}},
+    {{-5, 2, 123}, {.count = 2, .step = {0, 0, 5}}},
+    {{5, 2, 182}, {.count = 2, .step = {0, 0, 4}}},
     {{5, 1, 210}},
 };
 
 }  // namespace
 
 Track TwistAndHop() {
-  return {"2 Twist and Hop.lvl", "bk003.jpg", false, kBoxes, {}, kRamps, kStars};
+  return {"2 Twist and Hop.lvl", "_bk003.jpg", false, kBoxes, {}, kRamps, kStars};
 }
 
 }  // namespace art::tracks

@@ -47,20 +47,15 @@ constexpr RampRow kRamps[] = {
 };
 
 constexpr StarRow kStars[] = {
-    {{2, 1, 23}},
-    {{-2, 1, 47}},
-    {{0, 1, 74}, {.count = 2, .step = {0, 0, 4}}},
-    {{0, 3, 95}},
-    {{0, 1, 165}},
-    {{2, 1, 183}, {.mirrored = true}},
-    {{0, 1, 206}},
-    {{0, 1, 264}},
+    {{2, 1, 23}},  {{-2, 1, 47}}, {{0, 1, 74}, {.count = 2, .step = {0, 0, 4}}},
+    {{0, 3, 95}},  {{0, 1, 165}}, {{2, 1, 183}, {.mirrored = true}},
+    {{0, 1, 206}}, {{0, 1, 264}},
 };
 
 }  // namespace
 
 Track FrozenAvenue() {
-  return {"3 Frozen Avenue.lvl", "bk002.jpg", false, kBoxes, {}, kRamps, kStars};
+  return {"3 Frozen Avenue.lvl", "_bk002.jpg", false, kBoxes, {}, kRamps, kStars};
 }
 
 }  // namespace art::tracks

@@ -40,25 +40,25 @@ constexpr BoxRow kBoxes[] = {
 
 constexpr PlatformRow kPlatforms[] = {
     {Concrete, {-2, -0.1F, 21}, {4, 1, 7}, 8, Heading::Right, 5, true},
-    {Hazard, {-3, 0.9F, 101}, {4, 1, 7}, 5, Heading::Left, 4, false},
+    {Hazard, {-3, 0.9F, 101}, {4, 1, 7}, 5, Heading::Left, 5, false},
     {Concrete, {-8, 0.8F, 116}, {4, 1, 8}, 6, Heading::Right, 6, true},
 };
 
 constexpr StarRow kStars[] = {
     {{0, 1, 10}, {.count = 2, .step = {0, 0, 5}}},
-    {{5, 1, 33}},
-    {{5, 4, 57}},
-    {{3, 3, 75}},
-    {{-1, 2, 96}},
+    {{4, 1, 34}},
+    {{4, 5, 51}},
+    {{1, 3, 75}},
+    {{-2, 2, 97}},
     {{-6, 2, 111}},
     {{0, 2, 129}},
-    {{0, 5, 151}},
+    {{0, 5, 150}},
 };
 
 }  // namespace
 
 Track SkylineShuttle() {
-  return {"4 Skyline Shuttle.lvl", "bk005.jpg", false, kBoxes, kPlatforms, {}, kStars};
+  return {"4 Skyline Shuttle.lvl", "_bk005.jpg", false, kBoxes, kPlatforms, {}, kStars};
 }
 
 }  // namespace art::tracks

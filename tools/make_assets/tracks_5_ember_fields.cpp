@@ -35,7 +35,9 @@ constexpr BoxRow kBoxes[] = {
     {Lava, {-6, -0.9F, 17}, {12, 0.4F, 56}},
     {Stone, {-7, -0.9F, 16}, {1, 1.5F, 58}, {.mirrored = true}},
     {Brick, {-7, 0.6F, 24}, {1, 2, 1}, {.count = 4, .step = {0, 0, 14}, .mirrored = true}},
-    {Lava, {-6.75F, 2.6F, 24}, {0.5F, 0.5F, 0.5F},
+    {Lava,
+     {-6.75F, 2.6F, 24},
+     {0.5F, 0.5F, 0.5F},
      {.count = 4, .step = {0, 0, 14}, .mirrored = true}},
     {Lava, {-9, -0.9F, 80}, {4, 0.6F, 52}, {.mirrored = true}},
     {Stone, {-9, -0.3F, 84}, {3, 3, 3}, {.count = 3, .step = {0, 1, 18}, .mirrored = true}},
@@ -63,7 +65,7 @@ constexpr StarRow kStars[] = {
 }  // namespace
 
 Track EmberFields() {
-  return {"5 Ember Fields.lvl", "bk001.jpg", false, kBoxes, {}, kRamps, kStars};
+  return {"5 Ember Fields.lvl", "_bk001.jpg", false, kBoxes, {}, kRamps, kStars};
 }
 
 }  // namespace art::tracks

@@ -31,7 +31,10 @@ constexpr BoxRow kBoxes[] = {
     // Gates and islands in space
     {Neon, {-3, 1, 14}, {1, 4, 1}, {.mirrored = true}},
     {Gold, {-3, 5, 14}, {1, 1, 1}, {.mirrored = true}},
-    {Hexagons, {-9, -0.9F, 22}, {4, 0.5F, 4}, {.count = 4, .step = {0, 0.5F, 12}, .mirrored = true}},
+    {Hexagons,
+     {-9, -0.9F, 22},
+     {4, 0.5F, 4},
+     {.count = 4, .step = {0, 0.5F, 12}, .mirrored = true}},
     {Neon, {-8, -0.4F, 23}, {2, 2, 2}, {.count = 4, .step = {0, 0.5F, 12}, .mirrored = true}},
     {Neon, {-5, 1, 82}, {1, 3, 1}, {.mirrored = true}},
     {Gold, {-5, 4, 82}, {1, 1, 1}, {.mirrored = true}},
@@ -44,12 +47,12 @@ constexpr BoxRow kBoxes[] = {
 
 constexpr PlatformRow kPlatforms[] = {
     {Neon, {-3, -0.1F, 104}, {5, 1, 10}, 6, Heading::Right, 6, true},
-    {Neon, {-8, 0.5F, 150}, {3, 1, 3}, 9, Heading::Right, 16, true},
-    {Gold, {-8, 0.5F, 240}, {2, 1, 2}, 6, Heading::Right, 9, false},
+    {Neon, {-8, 0.5F, 159}, {3, 1, 3}, 9, Heading::Right, 16, true},
+    {Gold, {-8, 0.5F, 242}, {2, 1, 2}, 6, Heading::Right, 7, false},
 };
 
 constexpr RampRow kRamps[] = {
-    {Hexagons, {-2, 1, 60}, {4, 2, 6}, Rises::Forward},
+    {Gold, {-2, 1, 60}, {4, 2, 6}, Rises::Forward},
 };
 
 constexpr StarRow kStars[] = {
@@ -59,7 +62,7 @@ constexpr StarRow kStars[] = {
     {{0, 1, 97}},
     {{5, 1, 117}},
     {{5, 5, 160}, {.count = 2, .step = {0, 0, 8}}},
-    {{5, 1, 200}, {.count = 2, .step = {0, 0, 6}}},
+    {{5, 1, 202}, {.count = 2, .step = {0, 0, 6}}},
     {{5, 0, 236}},
     {{5, 8, 268}},
     {{5, 5, 290}},
@@ -68,7 +71,7 @@ constexpr StarRow kStars[] = {
 }  // namespace
 
 Track StarChaser() {
-  return {"6 Star Chaser.lvl", "bk004.jpg", true, kBoxes, kPlatforms, kRamps, kStars};
+  return {"6 Star Chaser.lvl", "_bk004.jpg", true, kBoxes, kPlatforms, kRamps, kStars};
 }
 
 }  // namespace art::tracks

@@ -28,7 +28,6 @@ constexpr BoxLook Topped(const char* top, const char* side, uint8_t stretchTop =
 /// In the order of Look.
 constexpr std::array kLooks = {
     All("_default.bmp"),
-    Topped("road.bmp", "concrete.bmp"),
     Topped("road stripes.bmp", "concrete.bmp", 1),
     Topped("grass.bmp", "stone wall.bmp"),
     Topped("green checker.bmp", "wood planks.bmp"),

@@ -9,10 +9,33 @@ namespace art::tracks {
 /// What a box looks like and does.
 enum class Look : uint8_t {
   // Driven on
-  Plain, Road, Stripes, Grass, Checker, Wood, Stone, Marble, Tiles, Metal, Neon, Hexagons, Sand,
-  Brick, Concrete, Gold, Hazard, Lava, Leaves,
+  Plain,
+  Stripes,
+  Grass,
+  Checker,
+  Wood,
+  Stone,
+  Marble,
+  Tiles,
+  Metal,
+  Neon,
+  Hexagons,
+  Sand,
+  Brick,
+  Concrete,
+  Gold,
+  Hazard,
+  Lava,
+  Leaves,
   // Kinds of their own
-  Win, JumpPad, Ice, Falling, Turbo, Kill, Building, Tower,
+  Win,
+  JumpPad,
+  Ice,
+  Falling,
+  Turbo,
+  Kill,
+  Building,
+  Tower,
 };
 
 /// Smallest corner; whole depths, as blocks and stars hold them.

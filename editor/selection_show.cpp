@@ -1,25 +1,26 @@
-#include "editor/selection.h"
+#include <cmath>
 
 #include "editor/main_controls.h"
-#include "level/globals.h"
+#include "editor/selection_state.h"
 
 namespace selection {
 namespace {
 
-template <typename T>
-T& Selected(std::vector<T>& collection) {
-  return collection.at(static_cast<size_t>(Document.SelectedIndex));
+/// The text box shows the true value, the up-down the nearest one in its range.
+void ShowNumber(TextBox& box, UpDown& upDown, double value) {
+  upDown.Value(value);
+  box.Text(std::to_string(static_cast<int64_t>(std::nearbyint(value))));
 }
 
 /// Sizes by the axis that they run along, then the position.
 void ShowPlace(double width, double height, double depth, double x, double y, double z) {
   MainControls& c = Controls();
-  c.UpDown1.Value(height);
-  c.UpDown2.Value(width);
-  c.UpDown3.Value(depth);
-  c.UpDownX.Value(x);
-  c.UpDownY.Value(y);
-  c.UpDownZ.Value(z);
+  ShowNumber(c.txt_height, c.UpDown1, height);
+  ShowNumber(c.txt_width, c.UpDown2, width);
+  ShowNumber(c.txt_depth, c.UpDown3, depth);
+  ShowNumber(c.txt_X, c.UpDownX, x);
+  ShowNumber(c.txt_Y, c.UpDownY, y);
+  ShowNumber(c.txt_Z, c.UpDownZ, z);
 }
 
 template <typename T>
@@ -56,10 +57,8 @@ void ShowPlatform(clsMovingPlatform& platform) {
   ShowSizesAndPlace(platform);
   platform.SelectBlock();
   c.cmbo_Direction.ListIndex(platform.GetinitalMDir() - clsMovingPlatform::Left);
-  c.UpDown_distance.Value(platform.Mdist());
-  c.UpDown_speed.Value(platform.Mspeed());
-  c.txt_distance.Text(std::to_string(platform.Mdist()));
-  c.txt_speed.Text(std::to_string(platform.Mspeed()));
+  ShowNumber(c.txt_distance, c.UpDown_distance, platform.Mdist());
+  ShowNumber(c.txt_speed, c.UpDown_speed, platform.Mspeed());
   if (Document.PlatformsPaused) c.cmbo_Direction.Enabled(true);
   c.Check_Loop.Checked(platform.MloopBack());
   EnableStretch();
@@ -116,15 +115,6 @@ void ShowProperties() {
   } else {
     ShowPlace(1, 1, 1, 0, 0, 0);
   }
-  const auto show = [](TextBox& box, const UpDown& value) {
-    box.Text(std::to_string(value.Value()));
-  };
-  show(c.txt_X, c.UpDownX);
-  show(c.txt_Y, c.UpDownY);
-  show(c.txt_Z, c.UpDownZ);
-  show(c.txt_height, c.UpDown1);
-  show(c.txt_width, c.UpDown2);
-  show(c.txt_depth, c.UpDown3);
 }
 
 }  // namespace selection

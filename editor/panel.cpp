@@ -1,0 +1,153 @@
+#include "editor/panel.h"
+
+#include "editor/main_controls.h"
+#include "editor/selection_state.h"
+#include "platform/dialogs.h"
+#include "platform/numbers.h"
+
+namespace panel {
+namespace {
+
+void ResizeBy(SizeAxis axis) {
+  MainControls& c = Controls();
+  switch (axis) {
+    case SizeAxis::Height:
+      return selection::ResizeSelection(0, c.UpDown1.Value(), 0);
+    case SizeAxis::Width:
+      return selection::ResizeSelection(c.UpDown2.Value(), 0, 0);
+    case SizeAxis::Depth:
+      return selection::ResizeSelection(0, 0, c.UpDown3.Value());
+  }
+}
+
+UpDown& UpDownOf(SizeAxis axis) {
+  MainControls& c = Controls();
+  return axis == SizeAxis::Height ? c.UpDown1 : axis == SizeAxis::Width ? c.UpDown2 : c.UpDown3;
+}
+
+void ConnectSize(SizeAxis axis, TextBox& box) {
+  UpDown& upDown = UpDownOf(axis);
+  const auto click = [axis, &box, &upDown] {
+    if (Document.ObjectSelected) {
+      ResizeBy(axis);  // shows the size that the piece has then
+    } else {
+      box.Text(std::to_string(upDown.Value()));
+    }
+  };
+  upDown.onUpClick = upDown.onDownClick = click;
+}
+
+void ConnectPosition(UpDown& upDown, int32_t dx, int32_t dy, int32_t dz) {
+  upDown.onUpClick = [=] { selection::MoveSelection(dx, dy, dz); };
+  upDown.onDownClick = [=] { selection::MoveSelection(-dx, -dy, -dz); };
+}
+
+/// Speed or distance of a platform. A refused click leaves the number as it was.
+template <typename Get, typename Set>
+void ConnectMotion(UpDown& upDown, TextBox& box, Get get, Set set) {
+  const auto click = [&upDown, &box, get, set] {
+    clsMovingPlatform* platform = selection::PlatformAtIndex();
+    if (platform == nullptr) return;
+    if (!Document.PlatformsPaused) {
+      upDown.Value(get(*platform));
+      dialogs::ShowMessage(selection::kPauseFirstText);
+      return;
+    }
+    set(*platform, ToByte(upDown.Value()));
+    box.Text(std::to_string(upDown.Value()));
+  };
+  upDown.onUpClick = upDown.onDownClick = click;
+}
+
+void cmbo_Direction_Click() {
+  clsMovingPlatform* platform = selection::PlatformAtIndex();
+  const int index = Controls().cmbo_Direction.ListIndex();
+  if (platform != nullptr && index >= 0) {
+    platform->Mdir(static_cast<uint8_t>(index + clsMovingPlatform::Left));
+  }
+}
+
+void Check_Loop_Click() {
+  CheckBox& box = Controls().Check_Loop;
+  clsMovingPlatform* platform = selection::PlatformAtIndex();
+  if (platform == nullptr) return;
+  if (Document.PlatformsPaused) {
+    platform->MloopBack(box.Checked());
+  } else {
+    box.Checked(platform->MloopBack());
+  }
+}
+
+void cmd_ramp_Click() {
+  if (Document.SelectedType == TypeRamp && Document.SelectedIndex <= Document.RampCount) {
+    selection::Selected(Document.Ramps).rotate();
+  }
+  Controls().frmMain.SetFocus();
+}
+
+constexpr int16_t kTopFace = 0, kSideFaces = 1;
+
+void StretchClick(const DropDown& list, int16_t side) {
+  if (!Document.ObjectSelected || list.ListIndex() < 0) return;
+  const int16_t value = ToInteger(list.ListIndex());
+  if (Document.SelectedType == TypePlatform) {
+    selection::Selected(Document.Platforms).AlignTexureCoords(side, value);
+  } else if (Document.SelectedType == TypeBlock) {
+    clsblock& block = selection::Selected(Document.Blocks);
+    if (block.changeactioncode() == clsblock::Normal) block.AlignTexureCoords(side, value);
+  }
+}
+
+void File1_DblClick() {
+  if (Document.ObjectSelected && Document.EditorMode == EditMode) {
+    selection::RetextureSelection(Controls().File1.FileName());
+  }
+}
+
+}  // namespace
+
+void ConnectEvents() {
+  MainControls& c = Controls();
+  ConnectSize(SizeAxis::Height, c.txt_height);
+  ConnectSize(SizeAxis::Width, c.txt_width);
+  ConnectSize(SizeAxis::Depth, c.txt_depth);
+  ConnectPosition(c.UpDownX, 1, 0, 0);
+  ConnectPosition(c.UpDownY, 0, 1, 0);
+  ConnectPosition(c.UpDownZ, 0, 0, 1);
+  using P = clsMovingPlatform;
+  ConnectMotion(
+      c.UpDown_speed, c.txt_speed, [](const P& p) { return p.Mspeed(); },
+      [](P& p, uint8_t value) { p.Mspeed(value); });
+  ConnectMotion(
+      c.UpDown_distance, c.txt_distance, [](const P& p) { return p.Mdist(); },
+      [](P& p, uint8_t value) { p.Mdist(value); });
+  c.cmbo_Direction.onClick = cmbo_Direction_Click;
+  c.Check_Loop.onClick = Check_Loop_Click;
+  c.cmd_pause.onClick = cmd_pause_Click;
+  c.cmd_ramp.onClick = cmd_ramp_Click;
+  c.Combo1.onClick = [&c] { StretchClick(c.Combo1, kTopFace); };
+  c.Combo2.onClick = [&c] { StretchClick(c.Combo2, kSideFaces); };
+  c.File1.onDoubleClick = File1_DblClick;
+}
+
+void cmd_pause_Click() {
+  MainControls& c = Controls();
+  Document.PlatformsPaused = c.cmd_pause.Caption() == kPauseCaption;
+  c.cmd_pause.Caption(Document.PlatformsPaused ? kUnPauseCaption : kPauseCaption);
+  selection::ResetPlatforms();
+  c.frmMain.SetFocus();
+}
+
+void PausePlatforms() {
+  if (Controls().cmd_pause.Caption() == kPauseCaption) cmd_pause_Click();
+}
+
+void StepSize(SizeAxis axis, int step) {
+  UpDown& upDown = UpDownOf(axis);
+  const int value = upDown.Value() + step;
+  if (value < upDown.Minimum() || value > upDown.Maximum()) return;
+  upDown.Value(value);
+  ResizeBy(axis);
+}
+
+}  // namespace panel

@@ -1,0 +1,152 @@
+#include "editor/picking.h"
+
+#include "editor/main_controls.h"
+#include "editor/selection_state.h"
+#include "level/maths.h"
+#include "platform/dialogs.h"
+#include "platform/numbers.h"
+#include "render/DirectX.h"
+
+namespace picking {
+namespace {
+
+constexpr float kNearDistance = 1.0F;
+constexpr float kFarDistance = 100.0F;
+constexpr int kRightButton = 2;
+
+struct Ray {
+  Vector3 start, direction;
+};
+
+Ray RayThrough(float x, float y) {
+  const PictureArea& viewport = Controls().viewport;
+  Vector3 nearPoint, farPoint;
+  maths::GetPickRay(x, y, DirectX::kFieldOfView, viewport.ScaleWidth(), viewport.ScaleHeight(),
+                    nearPoint, farPoint, kNearDistance, kFarDistance);
+  return {nearPoint, d3dx::Subtract(farPoint, nearPoint)};
+}
+
+/// The nearest face so far.
+class NearestFace {
+ public:
+  explicit NearestFace(const Ray& ray) : ray_(ray) {}
+
+  void Test(const CollisionPlane& plane, const std::array<Vector3, 4>& corners, int32_t type,
+            size_t index, int16_t planeNumber) {
+    Vector3 hit;
+    if (!maths::IntersectRayPlane(plane, ray_.start, ray_.direction, hit)) return;
+    if (!maths::PointInQuad(corners[0], corners[1], corners[2], corners[3], hit)) return;
+    const float distance = maths::Distance(ray_.start, hit);
+    if (!(distance < static_cast<float>(best_))) return;
+    // Whole units: of faces whose distances round alike the first one tested wins.
+    best_ = ToLong(distance);
+    found_ = true;
+    type_ = type;
+    index_ = static_cast<int32_t>(index);
+    plane_ = planeNumber;
+  }
+
+  /// Makes the found face the selection; false when there is none.
+  bool Select() const {
+    if (!found_) return false;
+    Document.ObjectSelected = true;
+    Document.SelectedIndex = index_;
+    Document.SelectedPlane = plane_;
+    Document.SelectedType = type_;
+    return true;
+  }
+
+ private:
+  Ray ray_;
+  int32_t best_ = 100;
+  bool found_ = false;
+  int32_t type_ = 0, index_ = 0, plane_ = 0;
+};
+
+template <typename Object>
+void TestFaces(NearestFace& nearest, std::span<const Object> objects, int32_t type,
+               int16_t planeCount) {
+  for (size_t i = 0; i < objects.size(); ++i) {
+    for (int16_t plane = 1; plane <= planeCount; ++plane) {
+      const Object& object = objects[i];
+      if constexpr (std::is_same_v<Object, clsStar>) {
+        nearest.Test(object.GetCollisionPlanes(plane), object.GetFaceCorners(plane), type, i,
+                     plane);
+      } else {
+        nearest.Test(object.GetCollisionPlane(plane), object.GetFaceCorners(plane), type, i, plane);
+      }
+    }
+  }
+}
+
+NearestFace FindFace(const Ray& ray) {
+  NearestFace nearest(ray);
+  const auto test = [&nearest]<typename Object>(const std::vector<Object>& objects, int32_t count,
+                                                int32_t type, int16_t planes) {
+    TestFaces(nearest, std::span<const Object>(objects.data(), static_cast<size_t>(count + 1)),
+              type, planes);
+  };
+  test(Document.Blocks, Document.BlockCount, TypeBlock, 5);
+  test(Document.Platforms, Document.PlatformCount, TypePlatform, 5);
+  test(Document.Ramps, Document.RampCount, TypeRamp, 5);
+  test(Document.Stars, Document.StarCount, TypeStar, 4);
+  return nearest;
+}
+
+/// Paints the face that was hit; the bottom has no texture.
+template <typename Box>
+void PaintPickedFace(Box& box, const std::string& name) {
+  constexpr std::array<const char*, 4> letters = {"B", "C", "D", "A"};
+  const int32_t plane = Document.SelectedPlane;
+  if (plane < 1 || plane > 4) return;
+  box.Texture(name, letters[static_cast<size_t>(plane - 1)], Document.TextureDir);
+}
+
+void RightClickBlock(bool shift, const std::string& name) {
+  clsblock& block = selection::Selected(Document.Blocks);
+  if (!shift) {
+    dialogs::ShowMessage(std::to_string(block.changeactioncode()));
+  } else if (block.changeactioncode() == clsblock::Normal) {
+    PaintPickedFace(block, name);
+  }
+}
+
+void RightClickPlatform(bool shift, const std::string& name) {
+  if (!shift) return selection::RetextureSelection(name);
+  PaintPickedFace(selection::Selected(Document.Platforms), name);
+}
+
+void RightClickRamp(bool shift, const std::string& name) {
+  if (!shift) return selection::RetextureSelection(name);
+  constexpr int32_t slope = 3;
+  clsRamp& ramp = selection::Selected(Document.Ramps);
+  if (Document.SelectedPlane == slope) ramp.Texture(name, "A", Document.TextureDir);
+  ramp.Texture(name, "B", Document.TextureDir);
+}
+
+void RightClick(bool shift) {
+  const std::string name = Controls().File1.FileName();
+  switch (Document.SelectedType) {
+    case TypeBlock:
+      return RightClickBlock(shift, name);
+    case TypePlatform:
+      return RightClickPlatform(shift, name);
+    case TypeRamp:
+      return RightClickRamp(shift, name);
+    default:
+      return;
+  }
+}
+
+}  // namespace
+
+void MouseDown(int button, int shift, float x, float y) {
+  selection::DeselectCurrent();
+  Document.ObjectSelected = false;
+  const bool found = FindFace(RayThrough(x, y)).Select();
+  if (found) Controls().cmd_ramp.Enabled(Document.SelectedType == TypeRamp);
+  selection::ShowProperties();
+  if (found && button == kRightButton) RightClick(shift != 0);
+}
+
+}  // namespace picking
