@@ -27,7 +27,7 @@ inline clsMovingPlatform* PlatformAtIndex() {
 template <typename Object>
 Object& AppendAndSelect(std::vector<Object>& collection, int32_t& count, Object object,
                         ObjectType type) {
-  collection.resize(static_cast<size_t>(count + 1));
+  collection.resize(static_cast<size_t>(count) + 1);  // an index of -1 is no element
   collection.push_back(std::move(object));
   ++count;
   DeselectCurrent();

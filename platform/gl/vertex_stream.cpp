@@ -7,7 +7,8 @@ namespace {
 
 constexpr size_t kCapacity = 1U << 16;
 
-const void* Offset(size_t bytes) { return reinterpret_cast<const void*>(bytes); }
+// OpenGL takes offsets into a buffer as pointers.
+const void* Offset(size_t bytes) { return reinterpret_cast<const void*>(bytes); }  // NOLINT
 
 }  // namespace
 

@@ -204,12 +204,8 @@ int FlatStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
   switch (hint) {
     case SH_MenuBar_AltKeyNavigation:
       return 1;
-    case SH_ComboBox_Popup:
-      // A plain list below the box: the whole list is seen at once.
-      return 0;
-    case SH_ComboBox_AllowWheelScrolling:
-      // A wheel turned on its way over the panel must not change the selected object.
-      return 0;
+    case SH_ComboBox_Popup:                // a plain list below the box shows the whole list
+    case SH_ComboBox_AllowWheelScrolling:  // a wheel over the panel must not change the object
     case SH_DialogButtonBox_ButtonsHaveIcons:
       return 0;
     default:

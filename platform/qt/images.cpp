@@ -40,7 +40,8 @@ Image LoadImageFile(const std::string& path) {
 void SaveImageFile(const Image& image, const std::string& path) {
   QImage encoded(image.width, image.height, QImage::Format_ARGB32);
   for (int y = 0; y < image.height; ++y) {
-    std::memcpy(encoded.scanLine(y), &image.pixels[static_cast<size_t>(y * image.width)],
+    std::memcpy(encoded.scanLine(y),
+                image.pixels.data() + static_cast<size_t>(y) * static_cast<size_t>(image.width),
                 static_cast<size_t>(image.width) * sizeof(uint32_t));
   }
   const QString file = QString::fromStdString(path);

@@ -28,7 +28,7 @@ int ButtonNumber(Qt::MouseButton button) {
 // Shares the picture's bytes.
 QImage Wrap(const Image& picture) {
   return {reinterpret_cast<const uchar*>(picture.pixels.data()), picture.width, picture.height,
-          picture.width * static_cast<int>(sizeof(uint32_t)), QImage::Format_ARGB32};
+          picture.width * static_cast<qsizetype>(sizeof(uint32_t)), QImage::Format_ARGB32};
 }
 
 }  // namespace

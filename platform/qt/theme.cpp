@@ -45,7 +45,7 @@ QPalette Palette() {
 }  // namespace
 
 void ApplyTheme(QApplication& application) {
-  application.setStyle(new FlatStyle);
+  application.setStyle(new FlatStyle);  // NOLINT: the application owns its style
   application.setPalette(Palette());
   application.setFont(Font(kMenuPixels));
   QToolTip::setFont(Font(kControlPixels));

@@ -27,7 +27,7 @@ void ArrowButton::paintEvent(QPaintEvent*) {
   DrawChevron(painter, rect(), up_, isEnabled());
 }
 
-UpDownView::UpDownView(QWidget* parent, std::function<void(bool up)> onClick)
+UpDownView::UpDownView(QWidget* parent, const std::function<void(bool up)>& onClick)
     : QWidget(parent), up_(this, true), down_(this, false) {
   connect(&up_, &QAbstractButton::clicked, this, [onClick] { onClick(true); });
   connect(&down_, &QAbstractButton::clicked, this, [onClick] { onClick(false); });

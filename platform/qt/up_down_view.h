@@ -23,7 +23,7 @@ class ArrowButton : public QAbstractButton {
 class UpDownView : public QWidget {
  public:
   /// `onClick` gets whether the upper button was clicked.
-  UpDownView(QWidget* parent, std::function<void(bool up)> onClick);
+  UpDownView(QWidget* parent, const std::function<void(bool up)>& onClick);
   /// The buttons are called "name_up" and "name_down".
   void Names(const QString& name, const QString& spokenName);
 

@@ -68,8 +68,9 @@ Image BakePicture(int width, int height, int samples, const PictureFunction& pai
     for (int x = 0; x < width; ++x) {
       Color sum;
       for (int i = 0; i < samples * samples; ++i) {
-        const double sx = x + (i % samples + 0.5) / samples;
-        const double sy = y + (i / samples + 0.5) / samples;
+        const int column = i % samples, row = i / samples;
+        const double sx = x + (column + 0.5) / samples;
+        const double sy = y + (row + 0.5) / samples;
         sum = sum + paint(sx / height, sy / height);
       }
       image.At(x, y) = ToPixel(sum * (1.0 / (samples * samples)));

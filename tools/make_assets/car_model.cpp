@@ -11,7 +11,8 @@ namespace {
 
 Point InQuarter(CarView view, double x, double y) {
   const int index = static_cast<int>(view);
-  return {(x + index % 2) / 2, (y + index / 2) / 2};
+  const int column = index % 2, row = index / 2;
+  return {(x + column) / 2, (y + row) / 2};
 }
 
 // Every face takes the view it turns to most.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 
 namespace art {
@@ -36,8 +37,8 @@ constexpr Color Screen(Color a, Color b) {
 }
 
 /// The opaque pixel 0xFFRRGGBB nearest to `c`.
-constexpr uint32_t ToPixel(Color c) {
-  const auto byte = [](double x) { return static_cast<uint32_t>(Clamp01(x) * 255.0 + 0.5); };
+inline uint32_t ToPixel(Color c) {
+  const auto byte = [](double x) { return static_cast<uint32_t>(std::lround(Clamp01(x) * 255.0)); };
   return 0xFF000000U | byte(c.r) << 16 | byte(c.g) << 8 | byte(c.b);
 }
 

@@ -89,9 +89,10 @@ Pictures Icon() {
   Image image = BakePicture(kSize, kSize, 4, IconColor);
   for (int i = 0; i < kSize * kSize; ++i) {
     uint32_t& pixel = image.At(i % kSize, i / kSize);
-    const Point p{(i % kSize + 0.5) / kSize, (i / kSize + 0.5) / kSize};
+    const int row = i / kSize;
+    const Point p{(i % kSize + 0.5) / kSize, (row + 0.5) / kSize};
     const double solid = Cover(Box(p, {0.5, 0.5}, {0.49, 0.49}, 0.16), 0.010);
-    pixel = (pixel & 0x00FFFFFFU) | static_cast<uint32_t>(solid * 255 + 0.5) << 24;
+    pixel = (pixel & 0x00FFFFFFU) | static_cast<uint32_t>(std::lround(solid * 255)) << 24;
   }
   return {{"icon.png", std::move(image)}};
 }
