@@ -8,8 +8,12 @@
 #include "platform/dialogs.h"
 #include "platform/paths.h"
 #include "play/DirectInput.h"
+#include "play/clsPlayer.h"
+#include "play/play_frame.h"
 #include "render/DirectX.h"
 #include "render/RenderFrame.h"
+#include "render/clsParticles.h"
+#include "render/clsShadow.h"
 
 namespace {
 
@@ -22,11 +26,15 @@ double Milliseconds(int64_t counts, int64_t frequency) {
 }  // namespace
 
 frmMain::frmMain(const Services& services) : services_(services) {
+  ticks::Use(&services_.clock);
   ConnectEvents();
   FileIO::TrackReplaced = [this] { TrackReplaced(); };
 }
 
-frmMain::~frmMain() { FileIO::TrackReplaced = nullptr; }
+frmMain::~frmMain() {
+  FileIO::TrackReplaced = nullptr;
+  ticks::Use(nullptr);
+}
 
 bool frmMain::Form_Load() {
   if (!Start()) return false;
@@ -42,6 +50,10 @@ bool frmMain::Start() {
     EndAfterFailedStart();
     return false;
   }
+  // Each is reported; a car without its picture must not keep anybody from building.
+  dialogs::Enter([] { Player.load(paths::InInstallFolder("\\models\\player.x")); });
+  dialogs::Enter([] { Particles.create(); });
+  dialogs::Enter([] { Shadow.create(); });
   Document.BackgroundName = kDefaultBackdrop;
   ShowBackdrop(kDefaultBackdrop);
   controls.VScroll1.Value(controls.VScroll1.Maximum());
@@ -93,6 +105,7 @@ void frmMain::Frame() {
 
 void frmMain::FrameSteps() {
   ProcessKeyboard();
+  if (Document.EditorMode == PlayMode) play::Update([this] { RestoreTrack(); });
   RenderFrame();
   if (!Document.PlatformsPaused) MovePlatforms();
 }
@@ -105,14 +118,20 @@ void frmMain::MovePlatforms() {
 
 void frmMain::ProcessKeyboard() {
   if (!DirectInput::PollKeyboard()) return;
-  using DirectInput::Held;
-  const bool shift = Held(scancode::kLeftShift) || Held(scancode::kRightShift);
-  if (Document.EditorMode == EditMode && shift) {
-    ScrollBar& bar = controls.VScroll1;
-    if (Held(scancode::kUp) && bar.Value() > bar.Minimum()) bar.Value(bar.Value() - 1);
-    if (Held(scancode::kDown) && bar.Value() < bar.Maximum()) bar.Value(bar.Value() + 1);
+  if (Document.EditorMode == EditMode) {
+    MoveCameraByKeys();
+  } else {
+    play::PollCarKeys();
   }
   DirectX::ApplyCamera();
+}
+
+void frmMain::MoveCameraByKeys() {
+  using DirectInput::Held;
+  if (!Held(scancode::kLeftShift) && !Held(scancode::kRightShift)) return;
+  ScrollBar& bar = controls.VScroll1;
+  if (Held(scancode::kUp) && bar.Value() > bar.Minimum()) bar.Value(bar.Value() - 1);
+  if (Held(scancode::kDown) && bar.Value() < bar.Maximum()) bar.Value(bar.Value() + 1);
 }
 
 void frmMain::EndAfterFailedStart() {

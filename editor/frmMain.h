@@ -50,6 +50,7 @@ class frmMain {
   void StartDocument();
   void Frame();
   void FrameSteps();
+  void MoveCameraByKeys();
   void EndAfterFailedStart();
   void Shutdown();
 
@@ -74,6 +75,7 @@ class frmMain {
   void mnu_playmode_Click();
   void mnu_editmode_Click();
   void StartPlay();
+  void RestoreTrack();
   void CheckMode(int32_t mode);
   void ClearSelection();
 

@@ -2,6 +2,7 @@
 #include "editor/selection.h"
 #include "level/globals.h"
 #include "platform/dialogs.h"
+#include "play/play_frame.h"
 #include "render/DirectX.h"
 
 void frmMain::mnu_playmode_Click() {
@@ -21,14 +22,17 @@ void frmMain::mnu_playmode_Click() {
 void frmMain::StartPlay() {
   ClearSelection();
   Document.PlatformsPaused = false;
-  DirectX::ResetCamera();
-  DirectX::ApplyCamera();
+  play::Start();
+}
+
+void frmMain::RestoreTrack() {
+  const FileIO::Result result = temporaryTrack_.Restore();
+  if (!result.Ok()) dialogs::ShowMessage(result.message);
 }
 
 void frmMain::mnu_editmode_Click() {
   if (Document.EditorMode != PlayMode) return;
-  const FileIO::Result result = temporaryTrack_.Restore();
-  if (!result.Ok()) dialogs::ShowMessage(result.message);
+  RestoreTrack();
   Document.EditorMode = EditMode;
   CheckMode(EditMode);
   ClearSelection();

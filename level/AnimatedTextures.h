@@ -4,11 +4,16 @@
 #include <array>
 #include <string>
 
+#include "platform/resources.h"
+
 namespace AnimatedTextures {
 
 /// File names in display order.
 inline std::array<std::string, 4> AnimationFrames = {"AnimationTest_0.bmp", "AnimationTest_1.bmp",
                                                      "AnimationTest_2.bmp", "AnimationTest_3.bmp"};
+
+/// The frames' pictures, each null until it is needed.
+using Pictures = std::array<TexturePtr, 4>;
 
 /// Whether Name is one of the frames; letter case counts.
 bool IsAnimatedTexture(const std::string& Name);

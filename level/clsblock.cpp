@@ -1,6 +1,7 @@
 #include "level/clsblock.h"
 
-#include "level/AnimatedTextures.h"
+#include <algorithm>
+
 #include "level/track_values.h"
 #include "platform/numbers.h"
 #include "render/DirectX.h"
@@ -42,10 +43,25 @@ void clsblock::Texture(const std::string& Name, const std::string& face,
 void clsblock::SETTEXTURE() const { DirectX::D3DDevice->SetTexture(Textures_[0]); }
 
 void clsblock::UpdateAnimatedTexture() {
+  AnimatedTextures::Pictures pictures;
+  UpdateAnimatedTexture(pictures);
+}
+
+void clsblock::UpdateAnimatedTexture(AnimatedTextures::Pictures& pictures) {
   for (size_t face = 0; face < kFaceLetters.size(); ++face) {
     if (!AnimatedFaces_[face]) continue;
-    Texture(AnimatedTextures::NextAnimationFrame(FaceTextureNames_[face]), kFaceLetters[face],
-            Track().TextureDir);
+    const std::string next = AnimatedTextures::NextAnimationFrame(FaceTextureNames_[face]);
+    const auto& frames = AnimatedTextures::AnimationFrames;
+    const auto index = static_cast<size_t>(std::ranges::find(frames, next) - frames.begin());
+    TexturePtr unknown;  // no frame any more: loading it fails
+    TexturePtr& picture = index < pictures.size() ? pictures[index] : unknown;
+    if (!picture) {
+      Texture(next, kFaceLetters[face], Track().TextureDir);
+      picture = Textures_[face];
+    } else {
+      Textures_[face] = picture;
+      FaceTextureNames_[face] = next;
+    }
   }
 }
 

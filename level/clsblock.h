@@ -1,6 +1,7 @@
 // The box-shaped piece of track: the plain block and every special block.
 #pragma once
 
+#include "level/AnimatedTextures.h"
 #include "level/box_object.h"
 
 class clsblock : public BoxObject {
@@ -44,6 +45,8 @@ class clsblock : public BoxObject {
   void SETTEXTURE() const;
   /// Moves every animated face to its next frame.
   void UpdateAnimatedTexture();
+  /// The same for many blocks: each picture is asked of its file once.
+  void UpdateAnimatedTexture(AnimatedTextures::Pictures& pictures);
 
   /// Starts the jump pad's bounce: 22 frames up by 1 and back.
   void Bounce();

@@ -21,3 +21,15 @@ class SystemClock : public Clock {
   int64_t Frequency() override;
   int32_t TickCount() override;
 };
+
+/// The tick count that animations read.
+namespace ticks {
+
+/// Names the clock that is read; it must outlive its use. Null: the machine's own.
+void Use(Clock* clock);
+/// Milliseconds since some fixed moment; wraps round.
+int32_t Count();
+/// Milliseconds from `start` to `now`, across a wrap too.
+uint32_t Between(int32_t start, int32_t now);
+
+}  // namespace ticks

@@ -1,7 +1,9 @@
 #include "render/RenderFrame.h"
 
 #include "level/globals.h"
+#include "play/clsPlayer.h"
 #include "render/DirectX.h"
+#include "render/clsParticles.h"
 
 void RenderFrame() {
   Device& device = *DirectX::D3DDevice;
@@ -14,6 +16,8 @@ void RenderFrame() {
     platform.draw();
   }
   for (clsStar& star : Live(Document.Stars, Document.StarCount)) star.draw();
+  if (Document.EditorMode == PlayMode) Player.draw();
+  Particles.draw();
   device.EndScene();
   device.Present();
 }

@@ -9,7 +9,7 @@ packages=(
   fonts-liberation
 )
 if [ "${1:-}" = tests ]; then
-  packages+=(libgtest-dev libgmock-dev xvfb xauth xdotool openbox x11-utils imagemagick)
+  packages+=(clang libgtest-dev libgmock-dev xvfb xauth xdotool openbox x11-utils imagemagick)
 fi
 
 missing=()

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -11,6 +12,7 @@ namespace qt {
 namespace {
 
 constexpr int kLongestName = 255;
+constexpr int kMessageWidth = 260;
 
 // The active window, else any window that is seen; null before the first is shown.
 QWidget* Owner() {
@@ -49,6 +51,9 @@ void DialogBoxes::ShowMessage(const std::string& text, const std::string& title)
                   QMessageBox::Ok, Owner());
   // A file's name in the text must not be read as markup.
   box.setTextFormat(Qt::PlainText);
+  // Wide enough for the title.
+  if (auto* label = box.findChild<QLabel*>("qt_msgbox_label"))
+    label->setMinimumWidth(kMessageWidth);
   box.exec();
 }
 

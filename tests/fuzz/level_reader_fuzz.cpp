@@ -1,5 +1,5 @@
-// Feeds the level reader: it must never crash, and what it reads it must write and read again to the
-// same bytes. Run: build/fuzz/bin/level_reader_fuzz -max_len=4096
+// Feeds the level reader: it must never crash, and what it reads it must write and read again to
+// the same bytes. Run: build/fuzz/bin/level_reader_fuzz -max_len=4096
 #include <cstdlib>
 
 #include "files/FileIO.h"

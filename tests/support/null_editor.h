@@ -67,9 +67,15 @@ class NullEditorTest : public ::testing::Test {
                              "backgrounds/bk001.jpg",
                              "backgrounds/bk002.jpg",
                              "models/orb.x",
+                             "models/player.x",
+                             "misc/starParticle.bmp",
+                             "misc/shadowimage.bmp",
                              "skins/StarSkin.bmp",
                              "skins/StarSkin_selected.bmp"}) {
       WriteBytes(folder / name, "");
+    }
+    for (int picture = 1; picture <= 16; ++picture) {
+      WriteBytes(folder / ("misc/explode" + std::to_string(picture) + ".bmp"), "");
     }
     // An empty file decodes to a white picture; any other content is damage.
     world->decoder = [](const std::string& path) {

@@ -1,21 +1,6 @@
 #!/usr/bin/env bash
 # vorbilax-track on the shipped tracks: exit statuses, conversion to the byte, both executors.
-set -euo pipefail
-programs=$1
-tool=$programs/vorbilax-track
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-
-fail() {
-  echo "FAILED: $*" >&2
-  exit 1
-}
-expect_status() { # status command...
-  local expected=$1 status=0
-  shift
-  "$@" >"$work/out" 2>"$work/err" || status=$?
-  [ "$status" -eq "$expected" ] || fail "status $status, not $expected: $* $(cat "$work/err")"
-}
+source "$(dirname "$0")/lib.sh" "$1"
 
 tracks=("$programs"/levels/*.lvl)
 [ ${#tracks[@]} -ge 5 ] || fail "only ${#tracks[@]} tracks are shipped"

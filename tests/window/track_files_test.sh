@@ -42,5 +42,14 @@ key ctrl+s
 key F3
 wait_for "the temporary track file" test -s "$install/tmp.trk"
 cmp -n 213 "$install/tmp.trk" "$work/copy.lvl" || fail "the temporary track differs"
+
+# The car drives off the short track, falls, and starts over at once.
+colours_of_viewport >/dev/null
+cp "$work/view.png" "$work/start.png"
+xdotool keydown Up
+sleep 0.8
+xdotool keyup Up
+colours_of_viewport >/dev/null
+cmp -s "$work/view.png" "$work/start.png" && fail "the car does not drive"
 key F4
 quit_editor

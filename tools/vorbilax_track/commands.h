@@ -6,7 +6,7 @@
 
 namespace track_tool {
 
-inline constexpr int kFine = 0, kBadInput = 1, kWrongUsage = 2;
+inline constexpr int kFine = 0, kBadInput = 1, kWrongUsage = 2, kNotWon = 3;
 
 /// Writes version, counts, gravity, backdrop and textures of a level file to stdout.
 int Info(const std::string& file, bool json);
@@ -21,5 +21,9 @@ struct RenderOptions {
 };
 /// Writes the viewport as a PNG picture.
 int Render(const std::string& file, const std::string& picture, const RenderOptions& options);
+
+/// Drives the track by a key script, a row of the car's numbers per frame on stdout. Until the end:
+/// stops at the first dead row and returns kNotWon unless the track was won.
+int DriveTrack(const std::string& file, const std::string& script, bool untilEnd);
 
 }  // namespace track_tool

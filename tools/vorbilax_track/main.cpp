@@ -31,6 +31,13 @@ int main(int argc, char** argv) {
   render->add_option("--frames", options.frames, "frames to run")->check(CLI::Range(1, 1'000'000));
   render->add_flag("--plain", options.plain, "one drawing call per face");
 
+  std::string script;
+  bool untilEnd = false;
+  CLI::App* drive = app.add_subcommand("drive", "drive a track by a script of held keys");
+  drive->add_option("FILE", input, "level file")->required();
+  drive->add_option("SCRIPT", script, "lines of frames and keys, such as: 30 up+left")->required();
+  drive->add_flag("--until-end", untilEnd, "stop when the run ends; status 3 unless it was won");
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& failure) {
@@ -40,5 +47,6 @@ int main(int argc, char** argv) {
   paths::InstallFolder(data);
   if (info->parsed()) return Info(input, json);
   if (convert->parsed()) return Convert(input, output);
+  if (drive->parsed()) return DriveTrack(input, script, untilEnd);
   return Render(input, output, options);
 }

@@ -1,0 +1,22 @@
+// The play part of a frame, shared by the editor's window and headless tools. A frame of play mode
+// is, in this order: the keyboard state is read, PollCarKeys, ApplyCamera; Update; RenderFrame,
+// which moves the car; the moving platforms' step.
+#pragma once
+
+#include <functional>
+
+namespace play {
+
+/// Puts the track back as it was when play began.
+using RestoreTrack = std::function<void()>;
+
+/// Enters play mode: car and camera at their start.
+void Start();
+/// Sets the car's velocities from the held keys in DirectInput::KeyState.
+void PollCarKeys();
+/// Starts over after a finished run, then runs the game for one frame.
+void Update(const RestoreTrack& restoreTrack);
+/// Car, camera, particles and track as at the start.
+void ResetAfterDeath(const RestoreTrack& restoreTrack);
+
+}  // namespace play

@@ -1,0 +1,171 @@
+#include "play/clsPlayer.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "level/maths.h"
+#include "play/end_program.h"
+#include "play/play_frame.h"
+#include "tests/play/play_test.h"
+
+namespace {
+
+class PlayerTest : public PlayTest {
+ protected:
+  clsPlayer car;
+  /// World transform of the car, whose test model is one triangle.
+  Matrix4 CarWorld() const {
+    const auto& screen = world->screen;
+    const auto draw = std::ranges::find(screen.commands, 3U, &Command::vertexCount);
+    EXPECT_NE(draw, screen.commands.end());
+    return screen.worlds[draw->world];
+  }
+  Vector3 Placed(const Vector3& point) const {
+    Vector3 placed;
+    maths::TransformCoord(placed, point, CarWorld());
+    return placed;
+  }
+};
+
+TEST_F(PlayerTest, SpeedsUpInThirtySteps) {
+  for (int i = 0; i < 30; ++i) car.accelerate();
+  EXPECT_EQ(car.ForwardVelocity(), 0.6F);
+  car.accelerate();
+  EXPECT_EQ(car.ForwardVelocity(), 0.6F);
+  car.ForwardVelocity(1);
+  car.accelerate();
+  EXPECT_EQ(car.ForwardVelocity(), 1);
+}
+
+TEST_F(PlayerTest, BrakesToRest) {
+  car.resetPLayer();
+  car.ForwardVelocity(0.03F);
+  car.deccelerate();
+  EXPECT_EQ(car.ForwardVelocity(), 0);
+  car.ForwardVelocity(0.03F);
+  car.SetPlayerOnIce();
+  car.deccelerate();
+  EXPECT_NEAR(car.ForwardVelocity(), 0.02, 1e-7);
+  car.setplayernotonice();
+  EXPECT_FALSE(car.ISPlayerOnAnIceBlock());
+}
+
+TEST_F(PlayerTest, SidewaysSpeedHasLimits) {
+  car.HorizontalVelocity(0.5F);
+  car.HorizontalVelocity(1.5F);
+  EXPECT_EQ(car.HorizontalVelocity(), 0.5F);
+  car.HorizontalVelocity(-1);
+  EXPECT_EQ(car.HorizontalVelocity(), -1);
+}
+
+TEST_F(PlayerTest, CollisionBox) {
+  car.resetPLayer();
+  EXPECT_EQ(car.CalculateEffectiveRadius({0, 1, 0}), 0.4F);
+  EXPECT_NEAR(car.CalculateEffectiveRadius({0, 0.7071F, 0.7071F}), 0.5657, 1e-4);
+  EXPECT_EQ(car.CalculateCollisionBoxCentre(), (Vector4{0, 3.9F, 0.6F, 1}));
+  EXPECT_EQ(car.GetCollisionPoint(1), (Vector4{-0.4F, 4.3F, 1, 0}));
+  EXPECT_EQ(car.GetCollisionPoint(4), (Vector4{0.4F, 3.5F, 1, 0}));
+  EXPECT_EQ(car.GetCollisionPoint(6), (Vector4{0.4F, 4.3F, 1 - 0.8F, 0}));
+  EXPECT_EQ(car.GetCollisionPoint(7), (Vector4{-0.4F, 3.5F, 1 - 0.8F, 0}));
+  EXPECT_THROW(car.GetCollisionPoint(0), std::out_of_range);
+  EXPECT_THROW(car.GetCollisionPoint(9), std::out_of_range);
+}
+
+TEST_F(PlayerTest, SlidingOnIceTurnsThePicture) {
+  AddFloor(clsblock::Ice);
+  track_tool::Drive drive;
+  Continue(drive, "20 right");
+  EXPECT_NEAR(Placed({0, 0, 1}).x, Player.Posx(), 1e-5) << "steering keeps it straight";
+  Continue(drive, "1 -");
+  EXPECT_NEAR(Placed({0, 0, 1}).x - Player.Posx(), -0.173648, 1e-5) << "sine of 10 degrees";
+  Continue(drive, "1 left\n1 -");
+  EXPECT_NEAR(Placed({0, 0, 1}).x - Player.Posx(), 0.173648, 1e-5);
+}
+
+TEST_F(PlayerTest, JumpPadSpinsItTwiceAboutItsMiddle) {
+  AddFloor(clsblock::JumpPad);
+  track_tool::Drive drive;
+  Continue(drive, std::to_string(kLanding - 1) + " -");
+  for (int angle = 0; angle <= 720; angle += 30) {
+    Continue(drive, "1 -");
+    const Vector3 middle = Placed({0, 0, -0.4F}), front = Placed({0, 0, 0});
+    EXPECT_NEAR(middle.z, Player.Posz() - 0.4, 1e-5);
+    EXPECT_NEAR(front.x - Player.Posx(), -0.4 * std::sin(angle * 0.017453292), 1e-5) << angle;
+  }
+  Continue(drive, "1 -");
+  EXPECT_EQ(Placed({0, 0, 0}), Player.GetPosition());
+}
+
+TEST_F(PlayerTest, WithoutItsSkinItDrivesUnseen) {
+  std::vector<d3dx::MeshObject::Subset> subsets(2);
+  subsets[1].material.textureName = "none.bmp";
+  world->meshReader = [&](const std::string&) { return subsets; };
+  WriteBytes(folder / "models/other.x", "");
+  DirectX::D3DX = DirectX::DX->CreateD3DX();
+  Player = clsPlayer();
+  EXPECT_THROW(Player.load(folder / "models/other.x"), PlatformError);
+  AddFloor();
+  EXPECT_TRUE(Last("20 -").onGround);
+}
+
+TEST_F(PlayerTest, ExplosionStandsStillWithTheCamera) {
+  AddFloor();
+  track_tool::Drive drive;
+  Continue(drive, "20 up");
+  Player.explode();
+  const float camera = DirectX::CameraPosition.z;
+  const Row row = Continue(drive, "3 -").back();
+  EXPECT_GT(row.fv, 0);
+  EXPECT_EQ(DirectX::CameraPosition.z, camera);
+  const auto& screen = world->screen;
+  const Command& sprite = screen.commands.back();
+  ASSERT_EQ(sprite.primitive, Primitive::PointList);
+  EXPECT_EQ(screen.states[sprite.states].pointSize, 0.06F);
+  EXPECT_FALSE(screen.states[sprite.states].depthWrite);
+  EXPECT_TRUE(screen.states[sprite.states].alphaBlend);
+  EXPECT_EQ(Player.ExplosionFrame(), 2);
+  // Blank pictures.
+  Continue(drive, "40 -");
+  EXPECT_NE(world->screen.commands.back().primitive, Primitive::PointList);
+}
+
+TEST_F(PlayerTest, PlayAdvancesAnimatedTexturesEveryThirdFrame) {
+  AddFloor(clsblock::TurboPad).Texture("AnimationTest_0.bmp", "D", Document.TextureDir);
+  track_tool::Drive drive;
+  Continue(drive, "2 -");
+  EXPECT_EQ(Document.Blocks[0].GetTextureD(), "AnimationTest_0.bmp");
+  Continue(drive, "1 -");
+  EXPECT_EQ(Document.Blocks[0].GetTextureD(), "AnimationTest_1.bmp");
+  EXPECT_EQ(Document.Blocks[0].GetTextureA(), "_default.bmp");
+  Continue(drive, "9 -");
+  EXPECT_EQ(Document.Blocks[0].GetTextureD(), "AnimationTest_0.bmp");
+}
+
+TEST_F(PlayerTest, OppositeKeysAndOtherJumpKeysAct) {
+  Player.resetPLayer();
+  CollisionDetection::OnGround = true;
+  DirectInput::KeyState = {};
+  for (const uint8_t key : {scancode::kUp, scancode::kDown, scancode::kRightCtrl}) {
+    DirectInput::KeyState[key] = kKeyHeld;
+  }
+  play::PollCarKeys();
+  EXPECT_EQ(Player.ForwardVelocity(), 0);
+  EXPECT_EQ(Player.verticalvelocity(), 0.35F);
+  Player.explode();
+  Player.verticalvelocity(0);
+  play::PollCarKeys();
+  EXPECT_EQ(Player.verticalvelocity(), 0) << "no jump while exploding";
+}
+
+TEST_F(PlayerTest, ATiltedPlaneEndsTheProgram) {
+  int ended = 0;
+  const auto before = EndProgram;
+  EndProgram = [&] { ++ended; };
+  CollisionDetection::Sweep.AxesInvolved = 3;
+  CollisionDetection::CalculateContactPoints();
+  EndProgram = before;
+  EXPECT_EQ(ended, 1);
+  EXPECT_EQ(boxes.messages, std::vector<std::string>{"Whoops: You got eaten by a bug"});
+}
+
+}  // namespace

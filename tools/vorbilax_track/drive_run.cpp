@@ -1,0 +1,99 @@
+#include "tools/vorbilax_track/drive_run.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <stdexcept>
+
+#include "files/FileIO.h"
+#include "level/globals.h"
+#include "play/CollisionDetection.h"
+#include "play/DirectInput.h"
+#include "play/clsPlayer.h"
+#include "play/play_frame.h"
+#include "render/DirectX.h"
+#include "render/RenderFrame.h"
+#include "render/clsParticles.h"
+
+namespace track_tool {
+namespace {
+
+void Check(const FileIO::Result& result) {
+  if (!result.Ok()) throw std::runtime_error(result.message);
+}
+
+/// How the run ended or came to its end in this update.
+const char* EventOf(bool wasExploding) {
+  // Nothing but a fall or a win has set it before the car is drawn.
+  if (Player.DeathStatus()) return Player.PosY() < -40 ? "fall" : "win";
+  return Player.getexplodeStatus() && !wasExploding ? "explode" : "";
+}
+
+int CollectedStars() {
+  const auto stars = Live(Document.Stars, Document.StarCount);
+  return static_cast<int>(
+      std::ranges::count_if(stars, [](const clsStar& star) { return !star.visible(); }));
+}
+
+DriveRow RowNow(int frame, const char* event) {
+  const Vector4 velocity = Player.GetVelocity();
+  return {frame,
+          Player.Posx(),
+          Player.PosY(),
+          Player.Posz(),
+          velocity.x,
+          velocity.y,
+          velocity.z,
+          CollisionDetection::OnGround,
+          Player.ISPlayerOnAnIceBlock(),
+          Player.getexplodeStatus(),
+          Player.DeathStatus(),
+          CollectedStars(),
+          event};
+}
+
+}  // namespace
+
+std::string DriveLine(const DriveRow& row) {
+  std::array<char, 256> line{};
+  std::snprintf(line.data(), line.size(), "%d,%.9g,%.9g,%.9g,%.9g,%.9g,%.9g,%d,%d,%d,%d,%d,%s",
+                row.frame, double{row.x}, double{row.y}, double{row.z}, double{row.hv},
+                double{row.vv}, double{row.fv}, row.onGround, row.onIce, row.exploding, row.dead,
+                row.stars, row.event);
+  return line.data();
+}
+
+Drive::Drive() {
+  // As in the editor, play starts from the track exactly as a file read produces it.
+  Check(FileIO::LevelBytes(track_));
+  RestoreTrack();
+  ticks::Use(&clock_);
+  Document.EditorMode = PlayMode;
+  Document.PlatformsPaused = false;
+  Particles.resetParticles();
+  play::Start();
+}
+
+Drive::~Drive() {
+  Document.EditorMode = EditMode;
+  DirectInput::KeyState = {};
+  ticks::Use(nullptr);
+}
+
+void Drive::RestoreTrack() const { Check(FileIO::ReadLevelBytes(track_, "the track in memory")); }
+
+DriveRow Drive::Step(const KeyboardState& keys) {
+  ++clock_.frame;
+  DirectInput::KeyState = keys;
+  play::PollCarKeys();
+  DirectX::ApplyCamera();
+  // A finished run is reset before the game goes on.
+  const bool wasExploding = Player.getexplodeStatus() && !Player.DeathStatus();
+  play::Update([this] { RestoreTrack(); });
+  const char* const event = EventOf(wasExploding);
+  RenderFrame();
+  for (auto& platform : Live(Document.Platforms, Document.PlatformCount)) platform.move();
+  return RowNow(clock_.frame, event);
+}
+
+}  // namespace track_tool
