@@ -3,7 +3,6 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 scripts/install-packages.sh
-cmake --preset release -DBUILD_TESTING=OFF >build-configure.log 2>&1 || { cat build-configure.log; exit 1; }
-rm -f build-configure.log
+cmake --preset release -DBUILD_TESTING=OFF
 cmake --build --preset release
 exec build/bin/vorbilax-editor "$@"
