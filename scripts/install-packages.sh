@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
   g++ cmake ninja-build ccache pkg-config git ca-certificates
   qt6-base-dev qt6-qpa-plugins libgl1-mesa-dri libegl1 libegl-dev libgl-dev libepoxy-dev libx11-dev
-  libassimp-dev libcli11-dev nlohmann-json3-dev
+  libassimp-dev zlib1g-dev libcli11-dev nlohmann-json3-dev
   fonts-liberation
 )
 if [ "${1:-}" = tests ]; then
