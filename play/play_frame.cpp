@@ -42,6 +42,8 @@ void Start() {
   framesShown = 0;
   // Left from an earlier play: no jump in the air.
   CollisionDetection::OnGround = false;
+  // Sparks of the last drive would pile up over many of them.
+  Particles.resetParticles();
   Player.resetPLayer();
   DirectX::ResetCamera();
   DirectX::ApplyCamera();

@@ -10,7 +10,7 @@ namespace play {
 /// Puts the track back as it was when play began.
 using RestoreTrack = std::function<void()>;
 
-/// Enters play mode: car and camera at their start.
+/// Enters play mode: car and camera at their start, no sparks.
 void Start();
 /// Sets the car's velocities from the held keys in DirectInput::KeyState.
 void PollCarKeys();

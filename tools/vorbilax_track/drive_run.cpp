@@ -13,7 +13,6 @@
 #include "play/play_frame.h"
 #include "render/DirectX.h"
 #include "render/RenderFrame.h"
-#include "render/clsParticles.h"
 
 namespace track_tool {
 namespace {
@@ -70,7 +69,6 @@ Drive::Drive() {
   ticks::Use(&clock_);
   Document.EditorMode = PlayMode;
   Document.PlatformsPaused = false;
-  Particles.resetParticles();
   play::Start();
 }
 
