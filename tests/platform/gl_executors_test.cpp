@@ -11,9 +11,14 @@ class Scene {
  public:
   explicit Scene(unsigned seed) : random_(seed) {
     for (int i = 0; i < 30; ++i) textures_.push_back(RandomTexture());
-    for (int i = 0; i < 12; ++i) boxes_.push_back(RandomBox());
-    const std::vector<Vertex> large = LargeStrip();
-    boxes_.push_back(std::make_shared<VertexBufferObject>(std::span(large)));
+    for (int i = 0; i < 12; ++i) shapes_.push_back(RandomShape());
+    // More vertices than a batch holds.
+    std::vector<Vertex> strip;
+    for (int i = 0; i < 9000; ++i) {
+      const auto x = static_cast<float>(i / 2) * 0.004F - 9;
+      strip.push_back({x, (i & 1) == 0 ? 1.0F : -1.0F, Real(-0.1F, 0.1F), Colour(), 0, x, 0});
+    }
+    shapes_.push_back(std::make_shared<VertexBufferObject>(std::span<const Vertex>(strip)));
   }
 
   /// Records one frame on each device, alike.
@@ -55,29 +60,14 @@ class Scene {
                                                : TextureObject::Format::Colour32);
   }
 
-  VertexBufferPtr RandomBox() {
-    const float w = Real(0.2F, 4), h = Real(0.2F, 4), d = Real(0.2F, 4), u = Real(0.5F, 3);
-    constexpr int kFaces[6][4] = {{2, 3, 0, 1}, {6, 2, 4, 0}, {3, 7, 1, 5},
-                                  {6, 7, 2, 3}, {7, 6, 5, 4}, {0, 1, 4, 5}};
+  VertexBufferPtr RandomShape() {
+    const float w = Real(0.2F, 4), h = Real(0.2F, 4), d = Real(0.2F, 4);
     std::vector<Vertex> vertices;
-    for (const auto& face : kFaces) {
-      for (int i = 0; i < 4; ++i) {
-        const auto at = [&](int bit, float size) { return (face[i] & bit) != 0 ? size : -size; };
-        vertices.push_back({at(1, w), at(2, h), at(4, d), Colour(), Colour(),
-                            static_cast<float>(i & 1) * u, static_cast<float>(i >> 1) * u});
-      }
+    for (int i = 0; i < 24; ++i) {
+      vertices.push_back(
+          {Real(-w, w), Real(-h, h), Real(-d, d), Colour(), Colour(), Real(0, 3), Real(0, 3)});
     }
     return std::make_shared<VertexBufferObject>(std::span(vertices));
-  }
-
-  /// More vertices than a batch holds.
-  std::vector<Vertex> LargeStrip() {
-    std::vector<Vertex> vertices;
-    for (int i = 0; i < 9000; ++i) {
-      const auto x = static_cast<float>(i / 2) * 0.004F - 9;
-      vertices.push_back({x, (i & 1) == 0 ? 1.0F : -1.0F, Real(-0.1F, 0.1F), Colour(), 0, x, 0});
-    }
-    return vertices;
   }
 
   void MoveCamera() {
@@ -100,20 +90,18 @@ class Scene {
     }
     const TexturePtr texture = Whole(8) == 0 ? nullptr : textures_[Index(textures_.size())];
     All([&](Device& device) { device.SetTexture(texture); });
-    switch (Whole(12)) {
-      case 0:
-        return RecordPoints();
-      case 1:
-        return RecordPanel();
-      default:
-        return RecordBox();
-    }
+    const int kind = Whole(12);
+    if (kind > 1) return RecordShape();
+    if (kind == 1) return RecordPoints();
+    const float x = Real(-20, 180), y = Real(-20, 120), z = Real(0, 1);
+    const uint32_t colour = Colour();
+    All([&](Device& device) { DrawRectangle(device, x, y, x + 50, y + 30, z, colour, 2); });
   }
 
   void ChangeStates() {
-    constexpr std::array<RenderState, 6> kStates = {
-        RenderState::Lighting,  RenderState::DepthTest,  RenderState::AlphaBlend,
-        RenderState::DepthTest, RenderState::DepthWrite, RenderState::MultisampleAntialias};
+    constexpr std::array kStates = {RenderState::DepthTest, RenderState::AlphaBlend,
+                                    RenderState::DepthTest, RenderState::DepthWrite,
+                                    RenderState::MultisampleAntialias};
     const RenderState state = kStates[Index(kStates.size())];
     const bool on = Whole(3) != 0;
     // Few pairs: the driver compiles anew for each combination of states.
@@ -147,38 +135,28 @@ class Scene {
     });
   }
 
-  void RecordPanel() {
-    const float x = Real(-20, 180), y = Real(-20, 120), z = Real(0, 1);
-    const uint32_t colour = Colour();
-    All([&](Device& device) { DrawRectangle(device, x, y, x + 50, y + 30, z, colour, 2); });
-  }
-
-  void RecordBox() {
+  void RecordShape() {
     Matrix4 world = d3dx::RotationY(Real(0, 6));
     const float far = Whole(4) == 0 ? 2400.0F : 0.0F;
     world.m[3] = {Real(-25, 25), Real(-25, 25), far + Real(-40, 60), 1};
-    const VertexBufferPtr box = boxes_[Index(boxes_.size())];
-    const auto count = static_cast<uint32_t>(box->VertexCount());
-    const auto primitive = Whole(4) == 0 ? Primitive::TriangleList : Primitive::TriangleStrip;
-    const bool whole = Whole(3) == 0;
+    const VertexBufferPtr shape = shapes_[Index(shapes_.size())];
+    const auto count = static_cast<uint32_t>(shape->VertexCount());
+    const bool list = Whole(4) == 0, whole = Whole(3) == 0;
     All([&](Device& device) {
       device.SetTransform(Transform::World, world);
       device.SetVertexFormat(VertexFormat::World);
-      device.SetStreamSource(box, sizeof(Vertex));
-      if (whole) {
-        device.DrawPrimitive(primitive, 0,
-                             primitive == Primitive::TriangleList ? count / 3 : count - 2);
-      } else {
-        for (uint32_t first = 0; first < 24; first += 4) {
-          device.DrawPrimitive(Primitive::TriangleStrip, first, 2);
-        }
+      device.SetStreamSource(shape, sizeof(Vertex));
+      if (whole && list) device.DrawPrimitive(Primitive::TriangleList, 0, count / 3);
+      if (whole && !list) device.DrawPrimitive(Primitive::TriangleStrip, 0, count - 2);
+      for (uint32_t first = 0; !whole && first < 24; first += 4) {
+        device.DrawPrimitive(Primitive::TriangleStrip, first, 2);
       }
     });
   }
 
   std::mt19937 random_;
   std::vector<TexturePtr> textures_;
-  std::vector<VertexBufferPtr> boxes_;
+  std::vector<VertexBufferPtr> shapes_;
   std::span<Device* const> devices_;
 };
 
@@ -189,7 +167,6 @@ INSTANTIATE_TEST_SUITE_P(Targets, GeneratedScenes,
                                          gl::TargetSettings{131, 120, 4, 1.5}));
 
 TEST_P(GeneratedScenes, BothSchemesDrawTheSamePixels) {
-  NeedContext();
   Screen batched(gl::Scheme::Batched, GetParam()), plain(gl::Scheme::Plain, GetParam());
   const std::array<Device*, 2> devices = {&batched.device, &plain.device};
   for (unsigned seed = 1; seed <= 10; ++seed) {
@@ -202,74 +179,55 @@ TEST_P(GeneratedScenes, BothSchemesDrawTheSamePixels) {
   }
 }
 
-/// Draws small squares, one for each texture.
-void RecordSquares(Device& device, std::span<const TexturePtr> textures) {
-  device.Clear(0xFF000000, 1);
-  device.BeginScene();
-  for (size_t i = 0; i < textures.size(); ++i) {
-    const auto x = static_cast<float>(2 * (i % 50)), y = static_cast<float>(2 * (i / 50));
-    device.SetTexture(textures[i]);
-    DrawRectangle(device, x, y, x + 2, y + 2, 0, 0xFFFFFFFF);
+class BatchedTextures : public testing::Test {
+ protected:
+  /// One small square for each texture.
+  void Record(std::span<const TexturePtr> textures) {
+    screen_.device.Clear(0xFF000000, 1);
+    screen_.device.BeginScene();
+    for (size_t i = 0; i < textures.size(); ++i) {
+      const auto x = static_cast<float>(2 * (i % 50)), y = static_cast<float>(2 * (i / 50));
+      screen_.device.SetTexture(textures[i]);
+      DrawRectangle(screen_.device, x, y, x + 2, y + 2, 0, 0xFFFFFFFF);
+    }
+    screen_.device.EndScene();
   }
-  device.EndScene();
-}
-
-void ExpectSquares(const Image& picture, std::span<const TexturePtr> textures) {
-  for (size_t i = 0; i < textures.size(); ++i) {
-    const int x = static_cast<int>(2 * (i % 50)), y = static_cast<int>(2 * (i / 50));
-    ASSERT_EQ(picture.At(x, y), textures[i]->Level(0).At(0, 0)) << i;
+  void ExpectShown(std::span<const TexturePtr> textures) {
+    Record(textures);
+    const Image picture = screen_.Present();
+    for (size_t i = 0; i < textures.size(); ++i) {
+      const int x = static_cast<int>(2 * (i % 50)), y = static_cast<int>(2 * (i / 50));
+      ASSERT_EQ(picture.At(x, y), textures[i]->Level(0).At(0, 0)) << i;
+    }
   }
-}
+  Screen screen_{gl::Scheme::Batched, {100, 40, 1, 1}};
+};
 
-TEST(BatchedTextures, HundredsOfOneSizeInOneFrame) {
-  NeedContext();
-  Screen screen(gl::Scheme::Batched, {100, 40, 1, 1});
+TEST_F(BatchedTextures, HundredsMakeRoomAndComeBack) {
   std::vector<TexturePtr> textures;
-  for (uint32_t i = 0; i < 600; ++i) textures.push_back(PlainTexture(0xFF000000U | i * 77));
-  for (int frame = 0; frame < 3; ++frame) {
-    RecordSquares(screen.device, textures);
-    ExpectSquares(screen.Present(), textures);
-  }
-}
-
-TEST(BatchedTextures, UnusedOnesMakeRoomAndComeBack) {
-  NeedContext();
-  Screen screen(gl::Scheme::Batched, {100, 40, 1, 1});
-  std::vector<TexturePtr> textures;
-  for (uint32_t i = 0; i < 60; ++i) textures.push_back(PlainTexture(0xFF000000U | i * 4001));
+  for (uint32_t i = 0; i < 600; ++i) textures.push_back(PlainTexture(0xFF000000U | i * 4001));
   const std::span all(textures);
-  RecordSquares(screen.device, all);
-  screen.Present();
+  ExpectShown(all);
   // Two frames in turn, so that neither is skipped as unchanged.
   for (size_t frame = 0; frame < 500; ++frame) {
-    RecordSquares(screen.device, all.subspan(frame % 2, 3));
-    screen.device.Present();
+    Record(all.subspan(frame % 2, 3));
+    screen_.device.Present();
   }
-  RecordSquares(screen.device, all);
-  ExpectSquares(screen.Present(), all);
+  ExpectShown(all);
 }
 
-TEST(BatchedTextures, ANewTextureAtAnOldAddressIsSeen) {
-  NeedContext();
-  Screen screen(gl::Scheme::Batched, {100, 40, 1, 1});
+TEST_F(BatchedTextures, ANewOneAtAnOldAddressIsSeen) {
   for (uint32_t i = 1; i < 50; ++i) {
-    const std::vector<TexturePtr> textures = {PlainTexture(0xFF000000U | i * 5)};
-    RecordSquares(screen.device, textures);
-    ExpectSquares(screen.Present(), textures);
-    screen.device.SetTexture(nullptr);
+    ExpectShown(std::vector{PlainTexture(0xFF000000U | i * 5)});
+    screen_.device.SetTexture(nullptr);
   }
 }
 
-TEST(UnchangedFrames, KeepTheirPictureAndNoticeEveryChange) {
-  NeedContext();
-  Screen screen(gl::Scheme::Batched, {100, 40, 1, 1});
+TEST_F(BatchedTextures, UnchangedFramesKeepTheirPictureAndNoticeEveryChange) {
   std::vector<TexturePtr> textures = {PlainTexture(0xFFFF0000), PlainTexture(0xFF00FF00)};
-  for (int round = 0; round < 3; ++round) {
-    for (int frame = 0; frame < 5; ++frame) {
-      RecordSquares(screen.device, textures);
-      ExpectSquares(screen.Present(), textures);
-    }
-    std::swap(textures[0], textures[1]);
+  for (int frame = 0; frame < 15; ++frame) {
+    ExpectShown(textures);
+    if (frame % 5 == 4) std::swap(textures[0], textures[1]);
   }
 }
 

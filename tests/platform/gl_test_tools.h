@@ -3,69 +3,55 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
-#include <fstream>
 #include <string>
 
 #include "platform/d3dx.h"
 #include "platform/device.h"
 #include "platform/gl/headless_context.h"
 #include "platform/gl/picture_executor.h"
+#include "platform/qt/images.h"
 
 namespace gltest {
 
-inline void NeedContext() { static gl::HeadlessContext context; }
-
 /// Lets a test keep hold of the executor that the device owns.
-class Forwarder : public Executor {
- public:
-  explicit Forwarder(gl::PictureExecutor& executor) : executor_(executor) {}
-  void Execute(const CommandList& frame) override { executor_.Execute(frame); }
-
- private:
-  gl::PictureExecutor& executor_;
+struct Forwarder : Executor {
+  explicit Forwarder(const std::unique_ptr<gl::PictureExecutor>& to) : executor(to) {}
+  void Execute(const CommandList& frame) override { executor->Execute(frame); }
+  const std::unique_ptr<gl::PictureExecutor>& executor;
 };
 
-class Screen {
- public:
-  Screen(gl::Scheme scheme, const gl::TargetSettings& settings)
-      : executor(gl::CreateExecutor(scheme, settings)),
-        device(std::make_unique<Forwarder>(*executor)) {}
-
+struct Screen {
+  Screen(gl::Scheme scheme, const gl::TargetSettings& settings) {
+    static gl::HeadlessContext context;
+    executor = gl::CreateExecutor(scheme, settings);
+  }
+  Screen(const Screen&) = delete;
   Image Present() {
     device.Present();
     return executor->ReadPicture();
   }
 
   std::unique_ptr<gl::PictureExecutor> executor;
-  Device device;
+  Device device{std::make_unique<Forwarder>(executor)};
 };
-
-inline void WritePpm(const Image& image, const std::string& path) {
-  std::ofstream file(path, std::ios::binary);
-  file << "P6\n" << image.width << ' ' << image.height << "\n255\n";
-  for (const uint32_t pixel : image.pixels) {
-    for (const unsigned shift : {16U, 8U, 0U}) file.put(static_cast<char>(pixel >> shift));
-  }
-}
 
 /// Expects 0 differing pixels; otherwise leaves both pictures and their difference.
 inline void ExpectSamePicture(const Image& actual, const Image& expected, const std::string& name) {
   ASSERT_EQ(actual.width, expected.width);
   ASSERT_EQ(actual.height, expected.height);
   Image difference(actual.width, actual.height);
-  int differing = 0;
   for (size_t i = 0; i < actual.pixels.size(); ++i) {
-    if (actual.pixels[i] == expected.pixels[i]) continue;
-    ++differing;
-    difference.pixels[i] = 0xFFFFFFFF;
+    if (actual.pixels[i] != expected.pixels[i]) difference.pixels[i] = 0xFFFFFFFF;
   }
+  const auto differing = std::ranges::count(difference.pixels, 0xFFFFFFFF);
   if (differing == 0) return;
   const std::string stem = testing::TempDir() + name;
-  WritePpm(actual, stem + "_actual.ppm");
-  WritePpm(expected, stem + "_expected.ppm");
-  WritePpm(difference, stem + "_difference.ppm");
-  ADD_FAILURE() << differing << " pixels differ, see " << stem << "_*.ppm";
+  qt::SaveImageFile(actual, stem + "_actual.png");
+  qt::SaveImageFile(expected, stem + "_expected.png");
+  qt::SaveImageFile(difference, stem + "_difference.png");
+  ADD_FAILURE() << differing << " pixels differ, see " << stem << "_*.png";
 }
 
 inline TexturePtr MakeTexture(Image image,
@@ -109,23 +95,19 @@ inline bool Near(uint32_t a, uint32_t b, int tolerance = 1) {
   return true;
 }
 
-/// The smallest rectangle around all pixels of a colour: left, top, right, bottom, right and bottom
+/// The smallest rectangle around all pixels of a colour: left, top, right, bottom, the last two
 /// exclusive; all zero when there are none.
-struct Bounds {
-  int left = 0, top = 0, right = 0, bottom = 0;
-  bool operator==(const Bounds&) const = default;
-};
+using Bounds = std::array<int, 4>;
 
 inline Bounds BoundsOf(const Image& image, uint32_t colour) {
-  Bounds bounds{image.width, image.height, 0, 0};
+  Bounds b{image.width, image.height, 0, 0};
   for (int y = 0; y < image.height; ++y) {
     for (int x = 0; x < image.width; ++x) {
       if (image.At(x, y) != colour) continue;
-      bounds = {std::min(bounds.left, x), std::min(bounds.top, y), std::max(bounds.right, x + 1),
-                std::max(bounds.bottom, y + 1)};
+      b = {std::min(b[0], x), std::min(b[1], y), std::max(b[2], x + 1), std::max(b[3], y + 1)};
     }
   }
-  return bounds.right == 0 ? Bounds{} : bounds;
+  return b[2] == 0 ? Bounds{} : b;
 }
 
 }  // namespace gltest

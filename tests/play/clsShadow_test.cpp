@@ -1,8 +1,5 @@
 #include "render/clsShadow.h"
 
-#include <algorithm>
-#include <map>
-
 #include "level/maths.h"
 #include "tests/play/play_test.h"
 
@@ -16,22 +13,18 @@ class ShadowTest : public PlayTest {
   };
   /// Draws the shadow of a car at this place; its corners in the world, six for every drawn piece.
   std::vector<Corner> Draw(const Vector3& car, const Vector4& velocity = {}) {
-    Device& device = *DirectX::D3DDevice;
-    device.BeginScene();
+    DirectX::D3DDevice->BeginScene();
     Shadow.draw(car, velocity);
+    DirectX::D3DDevice->EndScene();
+    DirectX::D3DDevice->Present();
     std::vector<Corner> corners;
-    device.EndScene();
-    device.Present();
     const auto& screen = world->screen;
     for (const Command& draw : screen.commands) {
       EXPECT_TRUE(screen.states[draw.states].alphaBlend);
-      EXPECT_EQ(screen.states[draw.states].sourceBlend, Blend::SourceAlpha);
-      EXPECT_EQ(screen.states[draw.states].destinationBlend, Blend::InverseSourceAlpha);
       for (uint32_t i = 0; i < draw.vertexCount; ++i) {
         const Vertex& v = Shadow.ShadowVertices()[draw.firstVertex + i];
-        Corner corner{{}, v.tu, v.tv};
-        maths::TransformCoord(corner.place, {v.x, v.y, v.z}, screen.worlds[draw.world]);
-        corners.push_back(corner);
+        corners.push_back({{}, v.tu, v.tv});
+        maths::TransformCoord(corners.back().place, {v.x, v.y, v.z}, screen.worlds[draw.world]);
       }
     }
     return corners;
@@ -48,14 +41,6 @@ TEST_F(ShadowTest, FourPiecesMakeOnePictureUnderTheCar) {
     EXPECT_NEAR(place.x, 1 - 0.45 + 0.9 * u, 1e-5);
     EXPECT_NEAR(place.z, 10 + 0.05 - 0.9 * v, 1e-5);
   }
-  const auto [least, most] = std::ranges::minmax(corners, {}, &Corner::u);
-  EXPECT_EQ(least.u, 0);
-  EXPECT_EQ(most.u, 1);
-}
-
-TEST_F(ShadowTest, TrianglesFaceUpwards) {
-  AddFloor();
-  const auto corners = Draw({1, 5, 10});
   for (size_t i = 0; i < corners.size(); i += 3) {
     Vector3 normal;
     maths::FaceNormal(corners[i].place, corners[i + 1].place, corners[i + 2].place, normal);
@@ -67,7 +52,7 @@ TEST_F(ShadowTest, EachPieceLiesOnTheNearestGroundBelowIt) {
   AddFloor();
   AddBlock({-10, 2, 0}, {11, 1, 50});
   AddBlock({-10, 8, 0}, {20, 1, 50});
-  auto corners = Draw({1, 5, 10});
+  const auto corners = Draw({1, 5, 10});
   ASSERT_EQ(corners.size(), 24U);
   EXPECT_NEAR(corners[0].place.y, 3.02, 1e-5) << "left front";
   EXPECT_NEAR(corners[6].place.y, 1.02, 1e-5) << "right front";
@@ -79,18 +64,15 @@ TEST_F(ShadowTest, EachPieceLiesOnTheNearestGroundBelowIt) {
 TEST_F(ShadowTest, NothingBelowNothingDrawn) {
   AddBlock({0, 0, 0}, {10, 1, 20});
   EXPECT_EQ(Draw({0, 5, 10}).size(), 12U) << "the left half hangs over the edge";
-  EXPECT_EQ(Draw({0, 5, 20.2F}).size(), 6U);
   EXPECT_TRUE(Draw({5, 5, 40}).empty());
   EXPECT_TRUE(Draw({5, 0, 10}).empty()) << "the block is above the car";
-  EXPECT_EQ(Draw({5, 98, 10}).size(), 0U) << "that high, the search ends above the block";
-  EXPECT_TRUE(Draw({5, 150, 10}).empty());
+  EXPECT_TRUE(Draw({5, 98, 10}).empty()) << "that high, the search ends above the block";
 }
 
 TEST_F(ShadowTest, FollowsASlopeAsItIsSeen) {
   for (int rotation = 0; rotation < 4; ++rotation) {
-    Document.RampCount = -1;
-    Document.Ramps.clear();
-    AddRamp(0, 0, 0, 8, 4, 8, rotation);
+    RemoveRamps();
+    AddRamp({0, 0, 0}, {8, 4, 8}, rotation);
     for (const float speed : {0.0F, 0.5F}) {
       const auto corners = Draw({4, 6, 4}, {0, 0, speed, 0});
       ASSERT_EQ(corners.size(), 24U);
@@ -102,19 +84,6 @@ TEST_F(ShadowTest, FollowsASlopeAsItIsSeen) {
       }
     }
   }
-}
-
-TEST_F(ShadowTest, ExplodingCarHasNone) {
-  AddFloor();
-  const auto drawn = [this](const std::string& keys) {
-    track_tool::Drive drive;
-    Continue(drive, keys);
-    Player.explode();
-    const size_t with = world->screen.commands.size();
-    Continue(drive, "1 -");
-    return with - world->screen.commands.size();
-  };
-  EXPECT_EQ(drawn("20 -"), 4U) << "car and four pieces go, the sprite comes";
 }
 
 }  // namespace

@@ -8,70 +8,53 @@ namespace {
 /// A ramp 4 long and 2 high on the floor, with a plateau as high beyond its high edge.
 class RampDriveTest : public PlayTest {
  protected:
-  /// Height of the slope below the car's touching edge.
-  static double Slope(const Row& row, int rotation) {
-    switch (rotation) {
-      case 0:
-        return 1 + (row.z - 10) * 0.5;
-      case 1:
-        return 1 + (row.x + 0.4 - 2) * 0.5;
-      case 2:
-        return 3 - (row.z - 0.8 - 10) * 0.5;
-      default:
-        return 3 - (row.x - 0.4 + 6) * 0.5;
-    }
+  void SetUp() override {
+    PlayTest::SetUp();
+    AddFloor();
   }
+  /// The slope is below the car's touching edge.
   static void ExpectOnSlope(const Row& row, int rotation, double step) {
-    EXPECT_GE(row.y, Slope(row, rotation) - 1e-4) << rotation << " frame " << row.frame;
-    EXPECT_LE(row.y, Slope(row, rotation) + step + 0.03) << rotation << " frame " << row.frame;
+    const double heights[] = {1 + (row.z - 10) * 0.5, 1 + (row.x - 1.6) * 0.5,
+                              3 - (row.z - 10.8) * 0.5, 3 - (row.x + 5.6) * 0.5};
+    EXPECT_GE(row.y, heights[rotation] - 1e-4) << rotation << " frame " << row.frame;
+    EXPECT_LE(row.y, heights[rotation] + step + 0.03) << rotation << " frame " << row.frame;
   }
 };
 
-TEST_F(RampDriveTest, ClimbsForwards) {
-  AddFloor();
-  AddRamp(-2, 1, 10, 4, 2, 4, 0);
-  AddBlock({-2, 1, 14}, {4, 2, 20});
-  const auto rows = Run("15 up\n50 -");
-  for (const Row& row : rows) {
-    if (row.z > 10.4F && row.z < 14) ExpectOnSlope(row, 0, 0.15);
-  }
-  EXPECT_NEAR(rows.back().y, 3.001, kNear);
-  EXPECT_NEAR(rows.back().fv, 0.3, kNear);
-}
-
-TEST_F(RampDriveTest, StandsBeyondTheHighEdgeForItsOwnLength) {
-  AddFloor();
-  AddRamp(-2, 1, 10, 4, 2, 4, 0);
+TEST_F(RampDriveTest, ClimbsForwardsAndStandsBeyondTheHighEdgeForItsOwnLength) {
+  AddRamp({-2, 1, 10}, {4, 2, 4}, 0);
   const auto rows = Run("2 up\n360 -");
   int standing = 0;
   for (const Row& row : rows) {
+    if (row.z > 10.4F && row.z < 14) ExpectOnSlope(row, 0, 0.15);
     if (row.z < 14.2F || row.z > 14.75F) continue;
     EXPECT_NEAR(row.y, 3.001, 1e-4) << row.frame;
     standing += row.onGround;
   }
   EXPECT_GT(standing, 10);
   EXPECT_LT(rows.back().y, 3) << "and falls then";
+  AddBlock({-2, 1, 14}, {4, 2, 20});
+  const Row row = Last("15 up\n50 -");
+  EXPECT_NEAR(row.y, 3.001, kNear);
+  EXPECT_NEAR(row.fv, 0.3, kNear);
 }
 
 TEST_F(RampDriveTest, OnItFrontFacesDoNotCount) {
-  AddFloor();
-  AddRamp(-2, 1, 10, 4, 2, 4, 0);
+  AddRamp({-2, 1, 10}, {4, 2, 4}, 0);
   AddBlock({-2, 1, 12}, {4, 1.2F, 2});
-  const auto rows = Run("8 up\n90 -");
-  EXPECT_GT(rows.back().z, 12.5F);
-  EXPECT_NEAR(rows.back().fv, 0.16, kNear);
+  const Row row = Last("8 up\n90 -");
+  EXPECT_GT(row.z, 12.5F);
+  EXPECT_NEAR(row.fv, 0.16, kNear);
 }
 
 TEST_F(RampDriveTest, ClimbsASteepOneToTheRight) {
-  AddFloor();
-  AddRamp(2, 1, 0, 2, 4, 20, 1);
+  AddRamp({2, 1, 0}, {2, 4, 20}, 1);
   AddBlock({4, 1, 0}, {6, 4, 20});
   EXPECT_NEAR(Last(kLand + "60 right").y, 5.001, kNear);
 }
 
 TEST_F(RampDriveTest, DescendsForwardsAndCannotClimbTheRiser) {
-  AddFloor();
-  AddRamp(-2, 1, 10, 4, 2, 4, 2);
+  AddRamp({-2, 1, 10}, {4, 2, 4}, 2);
   EXPECT_NEAR(Last("15 up\n60 -").z, 9.999, kNear) << "the riser faces the car";
   AddBlock({-2, 1, 2}, {4, 2, 8});
   track_tool::Drive drive;
@@ -79,8 +62,8 @@ TEST_F(RampDriveTest, DescendsForwardsAndCannotClimbTheRiser) {
   Player.Posz(4);
   const auto rows = Continue(drive, "10 up\n60 -");
   for (const Row& row : rows) {
-    if (row.z > 11.2F && row.z < 13.8F)
-      ExpectOnSlope(row, 2, 0.2);  // it falls behind the slope first
+    // It falls behind the slope first.
+    if (row.z > 11.2F && row.z < 13.8F) ExpectOnSlope(row, 2, 0.2);
   }
   EXPECT_NEAR(rows.back().y, kStanding, kNear);
   EXPECT_GT(rows.back().z, 14.8F);
@@ -88,15 +71,11 @@ TEST_F(RampDriveTest, DescendsForwardsAndCannotClimbTheRiser) {
 
 TEST_F(RampDriveTest, ClimbsAndDescendsSideways) {
   for (const int rotation : {1, 3}) {
-    Document.BlockCount = Document.RampCount = -1;
-    Document.Blocks.clear();
-    Document.Ramps.clear();
-    AddFloor();
+    RemoveRamps();
     const bool right = rotation == 1;
-    AddRamp(right ? 2 : -6, 1, 0, 4, 2, 20, rotation);
+    AddRamp({right ? 2.0F : -6.0F, 1, 0}, {4, 2, 20}, rotation);
     AddBlock({right ? 6.0F : -10.0F, 1, 0}, {4, 2, 20});
-    const std::string up = right ? "right" : "left", down = right ? "left" : "right";
-    const auto rows = Run(kLand + Frames(58, up) + Frames(58, down));
+    const auto rows = Run(kLand + (right ? "58 right\n58 left" : "58 left\n58 right"));
     for (const Row& row : rows) {
       if (std::abs(row.x) > 1.9F && std::abs(row.x) < 5.5F) ExpectOnSlope(row, rotation, 0.06);
     }
@@ -108,18 +87,12 @@ TEST_F(RampDriveTest, ClimbsAndDescendsSideways) {
 }
 
 TEST_F(RampDriveTest, SidesAndRisersStopSideways) {
-  AddFloor();
   for (int rotation = 0; rotation < 4; ++rotation) {
-    Document.RampCount = -1;
-    Document.Ramps.clear();
-    AddRamp(-6, 1, -2, 4, 8, 10, rotation);
+    RemoveRamps();
+    AddRamp({-6, 1, -2}, {4, 8, 10}, rotation);
     const Row row = Last(kLand + "40 left");
-    const bool risesToLeft = rotation == 3;
-    if (risesToLeft) {
-      EXPECT_GT(row.y, 2) << "its low edge is here";
-    } else {
-      EXPECT_NEAR(row.x, -1.599, kNear) << rotation;
-    }
+    // The last one's low edge is here.
+    EXPECT_TRUE(rotation == 3 ? row.y > 2 : std::abs(row.x + 1.599F) < kNear) << rotation;
   }
 }
 

@@ -22,17 +22,8 @@ class PlayTest : public DeviceTest {
 
   void SetUp() override {
     DeviceTest::SetUp();
-    WriteBytes(folder / "models/player.x", "");
-    for (int i = 1; i <= 16; ++i) {
-      WriteBytes(folder / ("misc/explode" + std::to_string(i) + ".bmp"), "");
-    }
-    WriteBytes(folder / "misc/starParticle.bmp", "");
-    WriteBytes(folder / "misc/shadowimage.bmp", "");
-    Particles = clsParticles();
     Particles.create();
-    Shadow = clsShadow();
     Shadow.create();
-    Player = clsPlayer();
     Player.load(folder / "models/player.x");
   }
   ~PlayTest() override {
@@ -45,48 +36,28 @@ class PlayTest : public DeviceTest {
   static clsblock& AddBlock(const Vector3& at, const Size& size, uint8_t kind = clsblock::Normal) {
     clsblock& block = Append(Document.Blocks, Document.BlockCount);
     block.create(0, 0, 0, 1, 1, 1);
-    block.Xpos(at.x);
-    block.Ypos(at.y);
-    block.Zpos(static_cast<int32_t>(at.z));
-    block.scaleX(size.x);
-    block.scaleY(size.y);
-    block.scaleZ(size.z);
     block.changeactioncode(kind);
-    Paint(block, {"A", "B", "C", "D"});
-    return block;
+    return Put(block, at, size, "ABCD");
   }
   /// Top at height 1, below the car's start and far ahead.
   static clsblock& AddFloor(uint8_t kind = clsblock::Normal) {
     return AddBlock({-20, 0, 0}, {40, 1, 200}, kind);
   }
-  static clsRamp& AddRamp(int x, int y, int z, int sx, int sy, int sz, int rotation) {
+  static clsRamp& AddRamp(const Vector3& at, const Size& size, int rotation) {
     clsRamp& ramp = Append(Document.Ramps, Document.RampCount);
     ramp.create(0, 0, 0);
-    ramp.Xpos(x);
-    ramp.Ypos(y);
-    ramp.Zpos(z);
     for (int i = 0; i < rotation; ++i) ramp.rotate();
-    ramp.scaleX(static_cast<int16_t>(sx));
-    ramp.scaleY(static_cast<int16_t>(sy));
-    ramp.scaleZ(static_cast<int16_t>(sz));
-    Paint(ramp, {"A", "B"});
-    return ramp;
+    return Put(ramp, at, size, "AB");
   }
   /// Swings over 10 units of x, 0.05 a frame.
   static clsMovingPlatform& AddPlatform(const Vector3& at, const Size& size, uint8_t direction) {
     clsMovingPlatform& platform = Append(Document.Platforms, Document.PlatformCount);
     platform.create(0, 0, 0);
-    platform.Xpos(at.x);
-    platform.Ypos(at.y);
-    platform.Zpos(at.z);
-    platform.scaleX(size.x);
-    platform.scaleY(size.y);
-    platform.scaleZ(size.z);
+    Put(platform, at, size, "ABCD");
     platform.Mdir(direction);
     platform.Mspeed(5);
     platform.Mdist(10);
     platform.MloopBack(true);
-    Paint(platform, {"A", "B", "C", "D"});
     return platform;
   }
   static clsStar& AddStar(int x, int y, int z) {
@@ -96,6 +67,10 @@ class PlayTest : public DeviceTest {
     star.Ypos(y);
     star.Zpos(z);
     return star;
+  }
+  static void RemoveRamps() {
+    Document.RampCount = -1;
+    Document.Ramps.clear();
   }
 
   /// Enters play mode and runs the script; what each frame ended with.
@@ -113,10 +88,8 @@ class PlayTest : public DeviceTest {
   static Row Last(const std::string& script) { return Run(script).back(); }
   /// The first row with this event; frame 0 when there is none.
   static Row FirstWith(const std::vector<Row>& rows, const std::string& event) {
-    for (const Row& row : rows) {
-      if (row.event == event) return row;
-    }
-    return {};
+    const auto found = std::ranges::find(rows, event, &Row::event);
+    return found == rows.end() ? Row{} : *found;
   }
 
  private:
@@ -125,23 +98,24 @@ class PlayTest : public DeviceTest {
     ++count;
     return objects.emplace_back();
   }
+  /// Some objects count in whole numbers.
   template <typename Object>
-  static void Paint(Object& object, const std::vector<std::string>& faces) {
-    for (const std::string& face : faces) {
-      object.Texture("_default.bmp", face, Document.TextureDir);
-    }
+  static Object& Put(Object& object, const Vector3& at, const Size& size, const char* faces) {
+    object.Xpos(static_cast<decltype(object.Xpos())>(at.x));
+    object.Ypos(static_cast<decltype(object.Ypos())>(at.y));
+    object.Zpos(static_cast<decltype(object.Zpos())>(at.z));
+    object.scaleX(static_cast<decltype(object.scaleX())>(size.x));
+    object.scaleY(static_cast<decltype(object.scaleY())>(size.y));
+    object.scaleZ(static_cast<decltype(object.scaleZ())>(size.z));
+    for (; *faces != 0; ++faces) object.Texture("_default.bmp", {*faces}, Document.TextureDir);
+    return object;
   }
 };
 
 /// Frames from the start until the car's box stands on a floor at height 1.
 inline constexpr int kLanding = 14;
-inline const std::string kLand = std::to_string(kLanding) + " -\n";
+inline const std::string kLand = "14 -\n";
 /// Height of a car that stands on a floor at height 1.
 inline constexpr float kStanding = 1.001F;
 /// How near sums of Singles come to the exact number.
 inline constexpr float kNear = 2e-5F;
-
-/// A script line.
-inline std::string Frames(int count, const std::string& keys) {
-  return std::to_string(count) + " " + keys + "\n";
-}

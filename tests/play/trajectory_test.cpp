@@ -10,12 +10,12 @@ class TrajectoryTest : public PlayTest {
  protected:
   static void BuildTrack() {
     AddBlock({-6, 0, 0}, {12, 1, 20});
-    AddRamp(-4, 1, 12, 8, 2, 6, 0);
+    AddRamp({-4, 1, 12}, {8, 2, 6}, 0);
     AddBlock({-4.3F, 1.7F, 18}, {8.6F, 1.3F, 9}, clsblock::Ice);
-    AddRamp(-4, 1, 27, 8, 2, 4, 2);
+    AddRamp({-4, 1, 27}, {8, 2, 4}, 2);
     AddBlock({-8, 0, 26}, {16, 1, 24});
-    AddRamp(3, 1, 2, 3, 1, 12, 1);
-    AddRamp(-6, 1, 2, 3, 1, 12, 3);
+    AddRamp({3, 1, 2}, {3, 1, 12}, 1);
+    AddRamp({-6, 1, 2}, {3, 1, 12}, 3);
     AddBlock({-1.5F, 0.2F, 36}, {3, 1, 2}, clsblock::JumpPad);
     AddBlock({-5, 0.1F, 40}, {2, 1, 4}, clsblock::TurboPad);
     AddBlock({3, 0.1F, 42}, {2, 1, 2}, clsblock::InstantKill);

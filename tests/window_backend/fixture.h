@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QWidget>
-#include <deque>
 
 #include "platform/qt/application.h"
 
@@ -32,10 +31,6 @@ struct SampleWindow : Window {
   CheckBox check;
 
   SampleWindow();
-
- private:
-  void Put(Control& control, const char* controlName, Place at, Control* in = nullptr);
-  void PutMenu(MenuItem& item, const char* itemName, const char* caption, const char* key = "");
 };
 
 class ShownWindow : public testing::Test {
@@ -45,25 +40,22 @@ class ShownWindow : public testing::Test {
 
   /// The widget of a control.
   template <class Widget>
-  Widget& Find(const std::string& name) {
-    auto* found = top_->findChild<Widget*>(QString::fromStdString(name));
-    if (found == nullptr) throw std::runtime_error("no widget " + name);
-    return *found;
+  Widget& Find(const char* name) {
+    return *top_->findChild<Widget*>(name);
   }
+  /// Keys as the window system sends them.
+  void Send(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, bool repeated);
+  void Press(int key, bool repeated = false) { Send(QEvent::KeyPress, key, {}, repeated); }
+  void Release(int key, bool repeated = false) { Send(QEvent::KeyRelease, key, {}, repeated); }
+  void Type(int key, Qt::KeyboardModifiers modifiers = {}) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+      Send(type, key, modifiers, false);
+  }
+  void Click(const char* name, QPointF at = {6, 6}, Qt::MouseButton button = Qt::LeftButton,
+             Qt::KeyboardModifiers modifiers = {});
 
   SampleWindow window_;
   QWidget* top_ = nullptr;
 };
-
-/// A press and a release as the window system sends them.
-void TypeKey(QWidget& top, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-void PressKey(QWidget& top, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-              bool repeated = false);
-void ReleaseKey(QWidget& top, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-                bool repeated = false);
-
-void Click(QWidget& widget, QPointF at, Qt::MouseButton button = Qt::LeftButton,
-           Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-void ClickMiddle(QWidget& widget);
 
 }  // namespace fixture

@@ -1,51 +1,97 @@
-#include <QCloseEvent>
-#include <QPushButton>
+// File lists, the presented picture and the message pump.
+#include <QListWidget>
+#include <QPixmap>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <chrono>
+#include <ctime>
+#include <fstream>
 
+#include "platform/error.h"
+#include "platform/qt/images.h"
 #include "tests/window_backend/fixture.h"
 
 namespace {
 
-class Windows : public fixture::ShownWindow {};
+using Windows = fixture::ShownWindow;
 
-TEST_F(Windows, UserCannotCloseItButTheHandlerCan) {
-  int asked = 0;
-  window_.onUnload = [&] { ++asked; };
-  top_->close();
-  EXPECT_EQ(asked, 1);
-  EXPECT_TRUE(top_->isVisible());
-  window_.onUnload = [this] { window_.Unload(); };
-  top_->close();
-  EXPECT_FALSE(top_->isVisible());
+TEST_F(Windows, FileListsShowPicturesAndMirrorTheSelection) {
+  const QTemporaryDir folder;
+  const auto path = [&](const char* name) { return folder.filePath(name).toStdString(); };
+  qt::SaveImageFile(Image(8, 8, 0xFFFF0000), path("a.bmp"));
+  for (const char* name : {"b.bmp", "c.txt"}) std::ofstream(path(name)) << "damaged";
+  qt::SaveImageFile(Image(8, 8, 0xFF00FF00), path("d.bmp"));
+  window_.list.pattern = "*.bmp";
+  window_.list.Folder(folder.path().toStdString());
+  auto& view = Find<QListWidget>("list");
+  ASSERT_EQ(view.count(), 3);
+  EXPECT_EQ(view.item(2)->text(), "d.bmp");
+  EXPECT_EQ(view.currentRow(), -1);
+
+  const QImage shown = view.grab().toImage();
+  const QColor colours[] = {{255, 0, 0}, view.palette().color(QPalette::Base), {0, 255, 0}};
+  for (int row = 0; row < 3; ++row) {
+    const QPoint place = view.visualItemRect(view.item(row)).topLeft() + QPoint(14, 14);
+    const QPointF inside = (view.viewport()->pos() + place) * view.devicePixelRatioF();
+    EXPECT_EQ(shown.pixelColor(inside.toPoint()), colours[row]) << row;
+  }
+
+  window_.list.ListIndex(2);
+  EXPECT_EQ(view.currentRow(), 2);
+  view.setCurrentRow(1);
+  EXPECT_EQ(window_.list.FileName(), "b.bmp");
+  std::string painted;
+  window_.list.onDoubleClick = [&] { painted = window_.list.FileName(); };
+  emit view.doubleClicked(view.model()->index(2, 0));
+  EXPECT_EQ(painted, "d.bmp");
 }
 
-TEST_F(Windows, ProgramEndsItWithoutBeingAsked) {
-  int asked = 0;
-  window_.onUnload = [&] { ++asked; };
-  window_.Unload();
-  EXPECT_FALSE(top_->isVisible());
-  EXPECT_EQ(asked, 0);
+TEST_F(Windows, PresentedPictureAppearsInTheWindow) {
+  const auto adapter = fixture::Toolkit().CreateRoot()->CreateD3D();
+  try {
+    adapter->GetDeviceCaps();
+  } catch (const PlatformError& refusal) {
+    GTEST_SKIP() << refusal.what();
+  }
+  PictureArea elsewhere;
+  EXPECT_THROW(adapter->CreateDevice(elsewhere, {}), PlatformError);
+  const auto device = adapter->CreateDevice(window_.picture, {});
+  for (const uint32_t colour : {0xFF204060U, 0xFFC08040U}) {
+    device->Clear(colour, 1.0F);
+    device->BeginScene();
+    device->EndScene();
+    device->Present();
+    const QImage shown = Find<QWidget>("picture").grab().toImage();
+    EXPECT_EQ(shown.pixelColor(0, 0), QColor::fromRgb(colour));
+    EXPECT_EQ(shown.pixelColor(shown.width() - 1, shown.height() - 1), QColor::fromRgb(colour));
+  }
 }
 
-TEST_F(Windows, CanBeShownAgain) {
-  window_.Unload();
-  window_.Show();
-  EXPECT_TRUE(top_->isVisible());
+double PumpFor(double milliseconds) {
+  using Moments = std::chrono::steady_clock;
+  fixture::Settle();
+  const auto begin = Moments::now();
+  fixture::Toolkit().Pump().Pump(milliseconds);
+  return std::chrono::duration<double, std::milli>(Moments::now() - begin).count();
 }
 
-TEST_F(Windows, TakesTheFocusFromItsControls) {
-  Find<QPushButton>("button").setFocus();
-  window_.SetFocus();
-  EXPECT_TRUE(Find<QWidget>("client").hasFocus());
+TEST(Pump, WaitsAboutAsLongAsAskedWithoutSpinning) {
+  EXPECT_LT(PumpFor(0.0), 500.0);
+  // Other programs may delay a wait, never shorten every one.
+  double longest = 0.0;
+  const std::clock_t before = std::clock();
+  for (int round = 0; round < 10; ++round) longest = std::max(longest, PumpFor(39.5));
+  EXPECT_GE(longest, 39.5);
+  EXPECT_LT(longest, 2000.0);
+  EXPECT_LT(static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC, 0.2);
 }
 
-TEST(DiscardedWindow, ItsControlsCanStillBeChanged) {
-  fixture::SampleWindow window;
-  fixture::Toolkit().Build(window);
-  fixture::Toolkit().Discard(window);
-  window.label.Caption("alone");
-  window.list.Folder("/");
-  window.low.Checked(true);
-  window.Show();
+TEST(Pump, WakesForAnEvent) {
+  bool handled = false;
+  QTimer::singleShot(20, [&handled] { handled = true; });
+  const double waited = PumpFor(5000.0);
+  EXPECT_TRUE(handled || waited < 20.0);
+  EXPECT_LT(waited, 3000.0);
 }
 
 }  // namespace
