@@ -181,7 +181,6 @@ TEST_F(EditorTest, PlayModeGoesThroughTheTemporaryFile) {
   EXPECT_EQ(ReadBytes(folder / "tmp.trk"), before);
   EXPECT_EQ(DirectX::CameraPosition.z, -18);
   Document.Blocks[0].Ypos(30);
-  WriteBytes(folder / "tmp.trk.mark", "");
   c.mnu_playmode.UserClicks();
   EXPECT_EQ(ReadBytes(folder / "tmp.trk"), before) << "the second command does nothing";
   c.mnu_editmode.UserClicks();
@@ -253,8 +252,6 @@ TEST_F(EditorTest, HelpAboutAndQuit) {
 }
 
 TEST_F(EditorTest, RepeatedFrameFailureIsToldOnce) {
-  Document.Stars.emplace_back();
-  Document.StarCount = 0;
   world->failing = "GetDeviceData";
   PassAfter(41);
   PassAfter(41);

@@ -189,7 +189,11 @@ TEST_F(SelectionTest, LastOfAKindAndLastBlock) {
   selection::DeleteSelection();
   EXPECT_EQ(Document.BlockCount, -1);
   PassAfter(41);
+  boxes.answers = {folder / "levels/none.lvl"};
   c.mnu_save.UserClicks();
+  EXPECT_EQ(boxes.messages, std::vector<std::string>{FileIO::kNoBlocksText});
+  EXPECT_FALSE(std::filesystem::exists(folder / "levels/none.lvl"));
+  EXPECT_EQ(Document.CurrentFileName, "");
   c.mnu_block.UserClicks();
   EXPECT_EQ(Document.BlockCount, 0);
   EXPECT_EQ(Bytes().size(), 213U);
