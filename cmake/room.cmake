@@ -2,6 +2,9 @@
 add_library(vorbilax_settings INTERFACE)
 target_include_directories(vorbilax_settings INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_options(vorbilax_settings INTERFACE -Wall -Wextra -Wconversion -ffp-contract=off)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  target_compile_options(vorbilax_settings INTERFACE -fpch-preprocess)  # for the compiler cache
+endif()
 option(VORBILAX_SANITIZE "address and undefined-behaviour sanitizers" OFF)
 if(VORBILAX_SANITIZE)
   target_compile_options(vorbilax_settings INTERFACE
