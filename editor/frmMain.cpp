@@ -105,7 +105,7 @@ void frmMain::Frame() {
 
 void frmMain::FrameSteps() {
   ProcessKeyboard();
-  if (Document.EditorMode == PlayMode) play::Update([this] { RestoreTrack(); });
+  if (Document.EditorMode == PlayMode) play::Update([this] { return RestartTrack(); });
   RenderFrame();
   if (!Document.PlatformsPaused) MovePlatforms();
 }

@@ -40,7 +40,7 @@ class frmMain {
   void ProcessKeyboard();
   /// A key-down message; afterwards the code is one that no control acts on.
   void Form_KeyDown(int16_t& KeyCode, int Shift);
-  void Form_KeyUp();
+  void Form_KeyUp(int16_t KeyCode);
 
   MainControls controls;
   frmAbout about;
@@ -65,6 +65,7 @@ class frmMain {
   void mnu_load_Click();
   void ChooseBackdrop(size_t item);
   void ClearBackgroundChecks();
+  void CheckBackdrop();
   void ChooseGravity(float gravity);
   void CheckGravity(bool normal);
   void VScroll1_Change();
@@ -75,7 +76,8 @@ class frmMain {
   void mnu_playmode_Click();
   void mnu_editmode_Click();
   void StartPlay();
-  void RestoreTrack();
+  bool RestartTrack();
+  void ReturnToEditing(const FileIO::Result& restored);
   void CheckMode(int32_t mode);
   void ClearSelection();
 
@@ -83,6 +85,7 @@ class frmMain {
   TemporaryTrack temporaryTrack_;
   bool Running_ = false;
   bool KeyReleased_ = false;  ///< a key came up since the last command that runs once per press
+  bool SpaceHeld_ = false;
   int64_t CounterFrequency_ = 1;
   int64_t LastFrameCount_ = 0;
   int64_t NowCount_ = 0;

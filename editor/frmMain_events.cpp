@@ -41,9 +41,14 @@ void mnu_cut_Click() {
 }
 
 void mnu_Paste_Click() {
+  const int32_t platforms = Document.PlatformCount;
   selection::PasteClipboard();
   selection::ShowProperties();
-  panel::PausePlatforms();
+  if (Document.PlatformCount > platforms) {
+    panel::PausePlatforms();
+  } else if (Controls().cmd_pause.Caption() == kPauseCaption) {
+    panel::cmd_pause_Click();
+  }
 }
 
 }  // namespace
@@ -52,7 +57,7 @@ void frmMain::ConnectEvents() {
   MainControls& c = controls;
   c.frmMain.onUnload = [this] { Shutdown(); };
   c.frmMain.onKeyDown = [this](int16_t& key, int shift) { Form_KeyDown(key, shift); };
-  c.frmMain.onKeyUp = [this](int16_t, int) { Form_KeyUp(); };
+  c.frmMain.onKeyUp = [this](int16_t key, int) { Form_KeyUp(key); };
   c.VScroll1.onChange = [this] { VScroll1_Change(); };
   c.viewport.onMouseDown = picking::MouseDown;
   panel::ConnectEvents();

@@ -54,6 +54,12 @@ void Size(frmMain&) {
   panel::StepSize(axis, step);
 }
 
+void DeleteAndShow(frmMain&) {
+  if (!Document.ObjectSelected) return;
+  selection::DeleteSelection();
+  selection::ShowProperties();
+}
+
 using M = MainControls;
 using panel::SizeAxis;
 
@@ -74,7 +80,7 @@ const std::map<int16_t, Command> kCtrlCommands = {
 };
 
 const std::map<int16_t, Command> kPlainCommands = {
-    {kDelete, [](frmMain&) { selection::DeleteSelection(); }},
+    {kDelete, DeleteAndShow},
     {kSpace, Choose<&M::mnu_block>},
     {kRight, Move<1, 0, 0>},
     {kLeft, Move<-1, 0, 0>},
@@ -108,7 +114,9 @@ void frmMain::Form_KeyDown(int16_t& KeyCode, int Shift) {
   const int16_t key = KeyCode;
   // No control of the window acts on the key as well, whatever the command does.
   KeyCode = kKeypadDivide;
-  if (Document.EditorMode != EditMode) return;
+  // A held key must not pile up blocks on one spot.
+  const bool heldSpace = key == kSpace && std::exchange(SpaceHeld_, true);
+  if (Document.EditorMode != EditMode || heldSpace) return;
   if (Shift == kCtrl) {
     if (std::exchange(KeyReleased_, false)) Run(kCtrlCommands, key, *this);
   } else if (Shift == kNoModifier && key == kF5) {
@@ -118,4 +126,7 @@ void frmMain::Form_KeyDown(int16_t& KeyCode, int Shift) {
   }
 }
 
-void frmMain::Form_KeyUp() { KeyReleased_ = true; }
+void frmMain::Form_KeyUp(int16_t KeyCode) {
+  KeyReleased_ = true;
+  if (KeyCode == kSpace) SpaceHeld_ = false;
+}

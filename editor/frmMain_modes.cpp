@@ -7,10 +7,11 @@
 
 void frmMain::mnu_playmode_Click() {
   if (Document.EditorMode != EditMode) return;
-  FileIO::Result result = temporaryTrack_.Save();
-  // Play starts from the track exactly as a file read produces it.
-  if (result.Ok()) result = temporaryTrack_.Restore();
+  // What is kept aside has no mark, should it come back.
+  selection::DeselectCurrent();
+  const FileIO::Result result = temporaryTrack_.Enter();
   if (!result.Ok()) {
+    selection::ShowProperties();
     dialogs::ShowMessage(result.message);
     return;
   }
@@ -25,18 +26,23 @@ void frmMain::StartPlay() {
   play::Start();
 }
 
-void frmMain::RestoreTrack() {
-  const FileIO::Result result = temporaryTrack_.Restore();
-  if (!result.Ok()) dialogs::ShowMessage(result.message);
+void frmMain::mnu_editmode_Click() {
+  if (Document.EditorMode == PlayMode) ReturnToEditing(temporaryTrack_.Leave());
 }
 
-void frmMain::mnu_editmode_Click() {
-  if (Document.EditorMode != PlayMode) return;
-  RestoreTrack();
+bool frmMain::RestartTrack() {
+  const FileIO::Result result = temporaryTrack_.Restart();
+  if (!result.Ok()) ReturnToEditing(result);
+  return result.Ok();
+}
+
+void frmMain::ReturnToEditing(const FileIO::Result& restored) {
   Document.EditorMode = EditMode;
   CheckMode(EditMode);
   ClearSelection();
+  TrackReplaced();  // the edited pieces may have come back without a read
   DirectX::ResetCamera();
+  if (!restored.Ok()) dialogs::ShowMessage(restored.message);
 }
 
 void frmMain::CheckMode(int32_t mode) {

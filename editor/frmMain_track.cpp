@@ -44,10 +44,9 @@ void frmMain::NewTrack() {
   Document.ObjectSelected = true;
 
   CheckGravity(true);
-  ClearBackgroundChecks();
-  controls.mnu_background1.Checked(true);
   ShowBackdrop(kDefaultBackdrop);
   Document.BackgroundName = kDefaultBackdrop;
+  CheckBackdrop();
   controls.VScroll1.Value(controls.VScroll1.Maximum());
   selection::ShowProperties();
 }
@@ -58,18 +57,31 @@ void frmMain::mnu_load_Click() {
   CheckMode(EditMode);
   // After a failed read the view stays where it was.
   if (outcome != FileIO::Outcome::Failed) DirectX::ResetCamera();
+  if (outcome == FileIO::Outcome::Done) {
+    // What was selected is gone with its track.
+    Document.ObjectSelected = false;
+    selection::ShowProperties();
+  }
   CheckGravity(Document.Gravity == kNormalGravity);
 }
 
 void frmMain::ChooseBackdrop(size_t item) {
-  ClearBackgroundChecks();
   ShowBackdrop(kBackdropFiles[item]);
-  controls.BackgroundItems()[item]->Checked(true);
   Document.BackgroundName = kBackdropFiles[item];
+  CheckBackdrop();
 }
 
 void frmMain::ClearBackgroundChecks() {
   for (MenuItem* item : controls.BackgroundItems()) item->Checked(false);
+}
+
+void frmMain::CheckBackdrop() {
+  ClearBackgroundChecks();
+  const std::string name = Document.BackgroundName.Trimmed();
+  for (size_t i = 0; i < kBackdropFiles.size(); ++i) {
+    const bool shown = name == kBackdropFiles[i] || name == kBackdropTrackNames[i];
+    if (shown) controls.BackgroundItems()[i]->Checked(true);
+  }
 }
 
 void frmMain::ChooseGravity(float gravity) {
@@ -93,13 +105,8 @@ void frmMain::VScroll1_Change() {
 }
 
 void frmMain::TrackReplaced() {
-  ClearBackgroundChecks();
-  const auto* const found =
-      std::ranges::find(kBackdropTrackNames, Document.BackgroundName.Trimmed());
-  if (found != kBackdropTrackNames.end()) {
-    controls.BackgroundItems()[static_cast<size_t>(found - kBackdropTrackNames.begin())]->Checked(
-        true);
-  }
+  CheckBackdrop();
+  CheckGravity(Document.Gravity == kNormalGravity);
   controls.VScroll1.Value(controls.VScroll1.Maximum());
 }
 

@@ -81,8 +81,22 @@ void Check_Loop_Click() {
 void cmd_ramp_Click() {
   if (Document.SelectedType == TypeRamp && Document.SelectedIndex <= Document.RampCount) {
     selection::Selected(Document.Ramps).rotate();
+    // The rotated wedge comes without the mark.
+    if (Document.ObjectSelected) selection::Selected(Document.Ramps).SelectRamp();
   }
   Controls().frmMain.SetFocus();
+}
+
+void Pause(bool paused) {
+  MainControls& c = Controls();
+  Document.PlatformsPaused = paused;
+  c.cmd_pause.Caption(paused ? kUnPauseCaption : kPauseCaption);
+  selection::ResetPlatforms();
+  if (paused) {
+    // What swings here after the pause swings alike in play.
+    for (auto& platform : Live(Document.Platforms, Document.PlatformCount)) platform.RestartLeg();
+  }
+  c.frmMain.SetFocus();
 }
 
 constexpr int16_t kTopFace = 0, kSideFaces = 1;
@@ -130,16 +144,10 @@ void ConnectEvents() {
   c.File1.onDoubleClick = File1_DblClick;
 }
 
-void cmd_pause_Click() {
-  MainControls& c = Controls();
-  Document.PlatformsPaused = c.cmd_pause.Caption() == kPauseCaption;
-  c.cmd_pause.Caption(Document.PlatformsPaused ? kUnPauseCaption : kPauseCaption);
-  selection::ResetPlatforms();
-  c.frmMain.SetFocus();
-}
+void cmd_pause_Click() { Pause(Controls().cmd_pause.Caption() == kPauseCaption); }
 
 void PausePlatforms() {
-  if (Controls().cmd_pause.Caption() == kPauseCaption) cmd_pause_Click();
+  if (!Document.PlatformsPaused) Pause(true);
 }
 
 void StepSize(SizeAxis axis, int step) {

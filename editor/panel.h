@@ -8,7 +8,7 @@ void ConnectEvents();
 
 /// Pauses the platforms, or lets them run again, from their starts.
 void cmd_pause_Click();
-/// cmd_pause_Click, unless they are paused already.
+/// Pauses running platforms, whatever the button's caption says.
 void PausePlatforms();
 
 /// The sizes by the up-down that shows them.

@@ -13,6 +13,7 @@ namespace {
 constexpr float kNearDistance = 1.0F;
 constexpr float kFarDistance = 100.0F;
 constexpr int kRightButton = 2;
+constexpr int16_t kTop = 3;
 
 struct Ray {
   Vector3 start, direction;
@@ -31,11 +32,14 @@ class NearestFace {
  public:
   explicit NearestFace(const Ray& ray) : ray_(ray) {}
 
-  void Test(const CollisionPlane& plane, const std::array<Vector3, 4>& corners, int32_t type,
+  void Test(const CollisionPlane& plane, const std::array<Vector3, 4>& c, int32_t type,
             size_t index, int16_t planeNumber) {
     Vector3 hit;
     if (!maths::IntersectRayPlane(plane, ray_.start, ray_.direction, hit)) return;
-    if (!maths::PointInQuad(corners[0], corners[1], corners[2], corners[3], hit)) return;
+    const bool slope = type == TypeRamp && planeNumber == kTop;
+    const bool inside = slope ? maths::PointInQuadEitherWay(c[0], c[1], c[2], c[3], hit)
+                              : maths::PointInQuad(c[0], c[1], c[2], c[3], hit);
+    if (!inside) return;
     const float distance = maths::Distance(ray_.start, hit);
     if (!(distance < static_cast<float>(best_))) return;
     // Whole units: of faces whose distances round alike the first one tested wins.
@@ -67,14 +71,10 @@ template <typename Object>
 void TestFaces(NearestFace& nearest, std::span<const Object> objects, int32_t type,
                int16_t planeCount) {
   for (size_t i = 0; i < objects.size(); ++i) {
+    const auto planes = objects[i].DrawnPlanes();
     for (int16_t plane = 1; plane <= planeCount; ++plane) {
-      const Object& object = objects[i];
-      if constexpr (std::is_same_v<Object, clsStar>) {
-        nearest.Test(object.GetCollisionPlanes(plane), object.GetFaceCorners(plane), type, i,
-                     plane);
-      } else {
-        nearest.Test(object.GetCollisionPlane(plane), object.GetFaceCorners(plane), type, i, plane);
-      }
+      nearest.Test(planes[static_cast<size_t>(plane - 1)], objects[i].GetFaceCorners(plane), type,
+                   i, plane);
     }
   }
 }
@@ -118,9 +118,8 @@ void RightClickPlatform(bool shift, const std::string& name) {
 
 void RightClickRamp(bool shift, const std::string& name) {
   if (!shift) return selection::RetextureSelection(name);
-  constexpr int32_t slope = 3;
   clsRamp& ramp = selection::Selected(Document.Ramps);
-  if (Document.SelectedPlane == slope) ramp.Texture(name, "A", Document.TextureDir);
+  if (Document.SelectedPlane == kTop) ramp.Texture(name, "A", Document.TextureDir);
   ramp.Texture(name, "B", Document.TextureDir);
 }
 

@@ -105,6 +105,7 @@ void PastePlatform(float z) {
   platform.MloopBack(clip.ClipLoopBack);
   platform.Mdist(ToByte(clip.ClipDistance));
   platform.Mspeed(ToByte(clip.ClipSpeed));
+  platform.Zpos(z);  // where it starts, which create leaves alone
   AppendAndSelect(Document.Platforms, Document.PlatformCount, std::move(platform), TypePlatform)
       .SelectBlock();
   Controls().frmMain.SetFocus();

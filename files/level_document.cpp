@@ -65,8 +65,9 @@ class Builder {
     platform.Mspeed(record.Mspeed);
     platform.Mdist(record.Mdist);
     platform.MloopBack(record.MloopBack != 0);
-    platform.ScaleTextureSide(record.Box.ScaleTextureSide);
-    platform.ScaleTextureTop(record.Box.ScaleTextureTop);
+    // The sizes were set before; the picture follows only this way.
+    platform.AlignTexureCoords(1, record.Box.ScaleTextureSide);
+    platform.AlignTexureCoords(0, record.Box.ScaleTextureTop);
     LoadTextures(platform, record.Box.Textures);
   }
 

@@ -47,6 +47,8 @@ class BoxObject {
   Vector3 GetPlaneNormal(int16_t planenumber) const;
   void GetCollisionPlaneBounds(int16_t planenumber, Vector3& greatest, Vector3& smallest) const;
   box::Corners GetFaceCorners(int16_t planenumber) const;
+  /// The planes of the box as it is drawn now; those above may lag behind a move or a new size.
+  std::array<CollisionPlane, 5> DrawnPlanes() const { return box::Planes(position_, size_); }
 
   const box::Vertices& GeometryVertices() const { return Vertices_; }
 

@@ -29,19 +29,24 @@ void clsMovingPlatform::Texture(const std::string& Name, const std::string& face
 
 int clsMovingPlatform::Heading() const { return Mdir_ == Left ? -1 : Mdir_ == Right ? 1 : 0; }
 
+clsMovingPlatform::Step clsMovingPlatform::NextStep() const {
+  const int heading = Heading();
+  const double length = heading * (Mspeed_ / 100.0);
+  const float limit = ToSingle(double{StartPos_.x} + heading * Mdist_);
+  const float next = ToSingle(position_.x + length);
+  return {length, next, limit, heading < 0 ? next >= limit : next <= limit};
+}
+
 void clsMovingPlatform::move() {
   ChangedDir_ = false;
-  const int heading = Heading();
-  if (Moving_ && heading != 0) {
-    const float limit = ToSingle(double{StartPos_.x} + heading * Mdist_);
-    const float next = ToSingle(position_.x + heading * (Mspeed_ / 100.0));
-    const bool inside = heading < 0 ? next >= limit : next <= limit;
-    if (inside) {
-      position_.x = ToSingle(RoundTo3(next));
+  if (Moving_ && Heading() != 0) {
+    const Step step = NextStep();
+    if (step.inside) {
+      position_.x = ToSingle(RoundTo3(step.next));
     } else if (MloopBack()) {
       ChangedDir_ = true;
-      position_.x = StartPos_.x = ToSingle(RoundTo3(limit));
-      Mdir_ = heading < 0 ? Right : Left;
+      position_.x = StartPos_.x = ToSingle(RoundTo3(step.limit));
+      Mdir_ = Mdir_ == Left ? Right : Left;
     } else {
       position_.x = StartPos_.x;
     }
@@ -50,12 +55,9 @@ void clsMovingPlatform::move() {
 }
 
 Vector3 clsMovingPlatform::GetVelocity() const {
-  const int heading = Heading();
-  const double step = heading * (Mspeed_ / 100.0);
-  const double next = position_.x + step;
-  const double limit = double{StartPos_.x} + heading * Mdist_;
-  const bool inside = heading < 0 ? next >= limit : next <= limit;
-  return heading != 0 && inside ? Vector3{ToSingle(step), 0, 0} : Vector3{};
+  if (Heading() == 0) return {};
+  const Step step = NextStep();
+  return step.inside ? Vector3{ToSingle(step.length), 0, 0} : Vector3{};
 }
 
 void clsMovingPlatform::StartAnimation() {
@@ -71,4 +73,9 @@ void clsMovingPlatform::StopAnimation() {
 
 void clsMovingPlatform::ResetToOrigin() {
   if (Mdir_ != 1) position_ = InitialPos_;
+}
+
+void clsMovingPlatform::RestartLeg() {
+  StartPos_ = InitialPos_;
+  Mdir_ = InitialDir_;
 }

@@ -48,7 +48,8 @@ class clsMovingPlatform : public BoxObject {
 
   /// One step of motion.
   void move();
-  /// What the next step would add to the position; asked even while it does not move.
+  /// What the next step would add to the position, nothing where it turns round or jumps back;
+  /// asked even while it does not move.
   Vector3 GetVelocity() const;
   /// The last step turned the platform round.
   bool GetChangeDir() const { return ChangedDir_; }
@@ -57,6 +58,8 @@ class clsMovingPlatform : public BoxObject {
   void StopAnimation();
   /// Puts the platform back to its initial position.
   void ResetToOrigin();
+  /// Makes the present leg the first one again: from the initial place, in the starting direction.
+  void RestartLeg();
   /// Freezes it until the next create.
   void stopMoving() { Moving_ = false; }
 
@@ -65,6 +68,13 @@ class clsMovingPlatform : public BoxObject {
 
   /// −1 to the left, +1 to the right, 0 for any other direction.
   int Heading() const;
+  /// Where the next step leads, before it turns round or jumps back at the end of the travel.
+  struct Step {
+    double length;
+    float next, limit;
+    bool inside;  ///< next lies on the leg
+  };
+  Step NextStep() const;
 
   uint8_t Mspeed_ = 0;
   uint8_t Mdir_ = 0;

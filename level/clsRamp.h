@@ -55,6 +55,10 @@ class clsRamp {
   Vector3 GetPlaneNormal(int16_t planenumber) const;
   void GetCollisionPlaneBounds(int16_t planenumber, Vector3& greatest, Vector3& smallest) const;
   ramp::Corners GetFaceCorners(int16_t planenumber) const;
+  /// The planes of the wedge as it is drawn now; those above lag behind a move.
+  std::array<CollisionPlane, 6> DrawnPlanes() const {
+    return ramp::Planes(rotateVal_, position_, size_);
+  }
 
   const ramp::Vertices& GeometryVertices() const { return Vertices_; }
 

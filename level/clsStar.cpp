@@ -68,9 +68,13 @@ void clsStar::draw() {
   }
 }
 
+std::array<CollisionPlane, 5> clsStar::DrawnPlanes() const {
+  return box::Planes(position_, {1, 1, 1});
+}
+
 CollisionPlane clsStar::GetCollisionPlanes(int16_t planenumber) const {
   if (planenumber < 1 || planenumber > kPlaneCount) return {};
-  return box::Planes(position_, {1, 1, 1})[static_cast<size_t>(planenumber - 1)];
+  return DrawnPlanes()[static_cast<size_t>(planenumber - 1)];
 }
 
 clsStar::Corners clsStar::GetFaceCorners(int16_t planenumber) const {

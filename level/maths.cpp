@@ -1,5 +1,6 @@
 #include "level/maths.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cmath>
@@ -55,6 +56,26 @@ int Sign(double value) { return (value > 0) - (value < 0); }
 
 double PlaneDot(const CollisionPlane& plane, const Vector3& v, double w) {
   return double{plane.a} * v.x + double{plane.b} * v.y + double{plane.c} * v.z + plane.d * w;
+}
+
+/// On which side of all edges of the projected quad p lies: 1 inside, −1 outside, 0 of not all.
+int SideOfEdges(const std::array<Vector3, 4>& quad, const Vector3& p) {
+  Vector3 normal;
+  FaceNormal(quad[0], quad[1], quad[2], normal);
+  const Drop drop = ChooseProjection(normal);
+  const Vector2 point = Project(p, drop);
+  std::array<Vector2, 4> corners;
+  std::ranges::transform(quad, corners.begin(),
+                         [drop](const Vector3& corner) { return Project(corner, drop); });
+  const size_t edges = corners[3] == corners[0] ? 3 : 4;
+  int common = 0;
+  for (size_t i = 0; i < edges; ++i) {
+    const Vector2 edge = Subtract(corners[(i + 1) % edges], corners[i]);
+    const int side = Sign(SideOf(edge, corners[i], point));
+    if (side == 0 || (i > 0 && side != common)) return 0;
+    common = side;
+  }
+  return common;
 }
 
 }  // namespace
@@ -128,19 +149,12 @@ int32_t FloatToLong(float f) { return std::bit_cast<int32_t>(f); }
 
 bool PointInQuad(const Vector3& c1, const Vector3& c2, const Vector3& c3, const Vector3& c4,
                  const Vector3& p) {
-  Vector3 normal;
-  FaceNormal(c1, c2, c3, normal);
-  const Drop drop = ChooseProjection(normal);
-  const Vector2 point = Project(p, drop);
-  const std::array<Vector2, 4> corners = {Project(c1, drop), Project(c2, drop), Project(c3, drop),
-                                          Project(c4, drop)};
-  const bool triangle = corners[3] == corners[0];
-  const size_t edges = triangle ? 3 : 4;
-  for (size_t i = 0; i < edges; ++i) {
-    const Vector2 edge = Subtract(corners[(i + 1) % edges], corners[i]);
-    if (!(SideOf(edge, corners[i], point) > 0)) return false;
-  }
-  return true;
+  return SideOfEdges({c1, c2, c3, c4}, p) == 1;
+}
+
+bool PointInQuadEitherWay(const Vector3& c1, const Vector3& c2, const Vector3& c3,
+                          const Vector3& c4, const Vector3& p) {
+  return SideOfEdges({c1, c2, c3, c4}, p) != 0;
 }
 
 }  // namespace maths

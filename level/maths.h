@@ -38,4 +38,8 @@ int32_t FloatToLong(float f);
 bool PointInQuad(const Vector3& c1, const Vector3& c2, const Vector3& c3, const Vector3& c4,
                  const Vector3& p);
 
+/// The same for a quad that may also run the other way round: strictly inside by either winding.
+bool PointInQuadEitherWay(const Vector3& c1, const Vector3& c2, const Vector3& c3,
+                          const Vector3& c4, const Vector3& p);
+
 }  // namespace maths

@@ -142,11 +142,10 @@ float SignOf(float x) { return x < 0 ? -1.0F : 1.0F; }
 
 bool PointInCollisionFace(const CollisionCandidate& candidate, const Vector3& p) {
   const auto& c = candidate.Corners;
-  if (maths::PointInQuad(c[0], c[1], c[2], c[3], p)) return true;
-  if (candidate.ObjectType != RampObject || candidate.PlaneNumber != kTop) return false;
-  const clsRamp& ramp = Document.Ramps[static_cast<size_t>(candidate.ObjectIndex)];
-  // Seen along x, the top of this rotation is wound the other way.
-  return ramp.rotateVal() == 1 && maths::PointInQuad(c[3], c[2], c[1], c[0], p);
+  // The projection of a slope depends on its steepness, and with it the way that it is wound.
+  const bool slope = candidate.ObjectType == RampObject && candidate.PlaneNumber == kTop;
+  return slope ? maths::PointInQuadEitherWay(c[0], c[1], c[2], c[3], p)
+               : maths::PointInQuad(c[0], c[1], c[2], c[3], p);
 }
 
 }  // namespace CollisionDetection

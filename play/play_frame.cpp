@@ -65,17 +65,18 @@ void PollCarKeys() {
 }
 
 void Update(const RestoreTrack& restoreTrack) {
-  if (Player.DeathStatus()) ResetAfterDeath(restoreTrack);
+  if (Player.DeathStatus() && !ResetAfterDeath(restoreTrack)) return;
   PlayUpdate();
   AnimateBlocks();
 }
 
-void ResetAfterDeath(const RestoreTrack& restoreTrack) {
+bool ResetAfterDeath(const RestoreTrack& restoreTrack) {
   Player.resetPLayer();
   DirectX::ResetCamera();
   Particles.resetParticles();
-  restoreTrack();
+  const bool restored = restoreTrack();
   DirectX::ApplyCamera();
+  return restored;
 }
 
 }  // namespace play

@@ -7,8 +7,8 @@
 
 namespace play {
 
-/// Puts the track back as it was when play began.
-using RestoreTrack = std::function<void()>;
+/// Puts the track back as it was when play began; false when it could not and play has ended.
+using RestoreTrack = std::function<bool()>;
 
 /// Enters play mode: car and camera at their start, no sparks.
 void Start();
@@ -16,7 +16,7 @@ void Start();
 void PollCarKeys();
 /// Starts over after a finished run, then runs the game for one frame.
 void Update(const RestoreTrack& restoreTrack);
-/// Car, camera, particles and track as at the start.
-void ResetAfterDeath(const RestoreTrack& restoreTrack);
+/// Car, camera, particles and track as at the start; false when play has ended.
+bool ResetAfterDeath(const RestoreTrack& restoreTrack);
 
 }  // namespace play

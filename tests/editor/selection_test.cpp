@@ -144,7 +144,7 @@ TEST_F(SelectionTest, CopiesOfEveryKind) {
   EXPECT_EQ(Document.Platforms[1].Mdir(), 2);
   EXPECT_EQ(Document.Platforms[1].Mspeed(), 9);
   EXPECT_FALSE(Document.Platforms[1].MloopBack());
-  EXPECT_EQ(Document.Platforms[1].GetInitalZpos(), 0) << "create leaves the initial place alone";
+  EXPECT_EQ(Document.Platforms[1].GetInitalZpos(), 40) << "for good";
 
   c.mnu_Star.UserClicks();
   c.mnu_cut.UserClicks();

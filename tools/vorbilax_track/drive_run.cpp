@@ -87,7 +87,10 @@ DriveRow Drive::Step(const KeyboardState& keys) {
   DirectX::ApplyCamera();
   // A finished run is reset before the game goes on.
   const bool wasExploding = Player.getexplodeStatus() && !Player.DeathStatus();
-  play::Update([this] { RestoreTrack(); });
+  play::Update([this] {
+    RestoreTrack();
+    return true;
+  });
   const char* const event = EventOf(wasExploding);
   RenderFrame();
   for (auto& platform : Live(Document.Platforms, Document.PlatformCount)) platform.move();
