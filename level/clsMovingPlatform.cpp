@@ -34,7 +34,7 @@ clsMovingPlatform::Step clsMovingPlatform::NextStep() const {
   const double length = heading * (Mspeed_ / 100.0);
   const float limit = ToSingle(double{StartPos_.x} + heading * Mdist_);
   const float next = ToSingle(position_.x + length);
-  return {length, next, limit, heading < 0 ? next >= limit : next <= limit};
+  return {length, next, ToSingle(RoundTo3(limit)), heading < 0 ? next >= limit : next <= limit};
 }
 
 void clsMovingPlatform::move() {
@@ -45,7 +45,7 @@ void clsMovingPlatform::move() {
       position_.x = ToSingle(RoundTo3(step.next));
     } else if (MloopBack()) {
       ChangedDir_ = true;
-      position_.x = StartPos_.x = ToSingle(RoundTo3(step.limit));
+      position_.x = StartPos_.x = step.limit;
       Mdir_ = Mdir_ == Left ? Right : Left;
     } else {
       position_.x = StartPos_.x;
@@ -57,7 +57,9 @@ void clsMovingPlatform::move() {
 Vector3 clsMovingPlatform::GetVelocity() const {
   if (Heading() == 0) return {};
   const Step step = NextStep();
-  return step.inside ? Vector3{ToSingle(step.length), 0, 0} : Vector3{};
+  if (step.inside) return {ToSingle(step.length), 0, 0};
+  // The rest of the way to the end; a jump back to the start carries nobody.
+  return MloopBack() ? Vector3{ToSingle(double{step.limit} - position_.x), 0, 0} : Vector3{};
 }
 
 void clsMovingPlatform::StartAnimation() {

@@ -48,8 +48,8 @@ class clsMovingPlatform : public BoxObject {
 
   /// One step of motion.
   void move();
-  /// What the next step would add to the position, nothing where it turns round or jumps back;
-  /// asked even while it does not move.
+  /// What the next step would add to the position; nothing where it jumps back to the start. Asked
+  /// even while it does not move.
   Vector3 GetVelocity() const;
   /// The last step turned the platform round.
   bool GetChangeDir() const { return ChangedDir_; }
@@ -72,7 +72,7 @@ class clsMovingPlatform : public BoxObject {
   struct Step {
     double length;
     float next, limit;
-    bool inside;  ///< next lies on the leg
+    bool inside;  ///< next does not pass the limit
   };
   Step NextStep() const;
 

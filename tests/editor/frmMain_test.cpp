@@ -35,6 +35,28 @@ TEST_F(EditorTest, StartsWithANewTrack) {
   EXPECT_EQ(Bytes().size(), 213U);
 }
 
+TEST_F(EditorTest, ControlsStandAtTheirPlaces) {
+  std::string places;
+  for (const Control* control : c.frmMain.controls) {
+    const Place& p = control->place;
+    for (const int number : {p.left, p.top, p.width, p.height}) places += std::to_string(number) + " ";
+    const auto* upDown = dynamic_cast<const UpDown*>(control);
+    if (upDown == nullptr) continue;
+    places += std::to_string(upDown->Minimum()) + ".." + std::to_string(upDown->Maximum()) + " ";
+  }
+  EXPECT_EQ(places,
+            "0 0 601 457 600 0 17 457 624 0 169 25 624 24 169 435 8 464 785 105 "
+            "8 8 129 17 8 32 40 17 8 56 40 17 8 80 40 17 144 16 16 17 144 40 16 17 144 64 16 17 "
+            "232 16 145 16 232 56 145 16 384 8 113 33 504 32 48 17 504 56 48 17 504 80 48 17 "
+            "640 16 129 25 48 32 49 19 96 32 17 19 1..40 48 56 49 19 96 56 17 19 1..40 "
+            "48 80 49 19 96 80 17 19 1..400 160 16 40 19 200 16 17 19 -50..50 "
+            "160 40 40 19 200 40 17 19 0..50 160 64 40 19 200 64 17 19 0..2500 "
+            "552 32 57 19 608 32 17 19 0..20 552 80 57 19 608 80 17 19 0..10 "
+            "232 32 145 21 232 72 145 21 384 48 113 25 384 80 105 17 552 56 73 21 640 40 129 25 ");
+  EXPECT_EQ(c.frmMain.clientWidth, 800);
+  EXPECT_EQ(c.frmMain.clientHeight, 574);
+}
+
 TEST_F(EditorTest, FramesAreMoreThanFortyMillisecondsApart) {
   PassAfter(40.0);
   EXPECT_EQ(world->screen.frames, 0) << "exactly 40 waits";
@@ -155,6 +177,16 @@ TEST_F(EditorTest, OpenTrackResetsCameraAndChecks) {
   EXPECT_TRUE(c.mnu_background2.Checked());
   EXPECT_FALSE(c.mnu_background1.Checked());
   EXPECT_EQ(Document.CurrentFileName, path);
+  EXPECT_FALSE(Document.ObjectSelected) << "nothing that Delete could take unseen";
+  EXPECT_EQ(c.txt_width.Text(), "1");
+  EXPECT_FALSE(c.Combo1.Enabled());
+  c.mnu_playmode.UserClicks();
+  c.mnu_normal.UserClicks();
+  c.mnu_editmode.UserClicks();
+  EXPECT_TRUE(c.mnu_low.Checked() && c.mnu_background2.Checked()) << "as the track has it";
+  c.mnu_background3.UserClicks();
+  c.mnu_playmode.UserClicks();
+  EXPECT_TRUE(c.mnu_background3.Checked()) << "both spellings of a name";
 }
 
 TEST_F(EditorTest, FailedOpenKeepsTheView) {

@@ -73,12 +73,37 @@ TEST_F(PanelTest, PlatformMotionNeedsAPause) {
   EXPECT_EQ(boxes.messages.size(), 2U);
 }
 
-TEST_F(PanelTest, PauseSendsPlatformsHome) {
+TEST_F(PanelTest, PauseStartsTheTravelAnew) {
   AddPlatform();
-  for (int i = 0; i < 7; ++i) form.MovePlatforms();
+  Document.Platforms[0].MloopBack(true);
+  for (int i = 0; i < 130; ++i) form.MovePlatforms();
   c.cmd_pause.UserClicks();
   EXPECT_EQ(Document.Platforms[0].Xpos(), 0);
   EXPECT_TRUE(Document.PlatformsPaused);
+  // What swings here from now on swings as in play.
+  std::vector<float> places[2];
+  for (const int run : {0, 1}) {
+    run == 0 ? c.cmd_pause.UserClicks() : c.mnu_playmode.UserClicks();
+    for (int i = 0; i < 250; ++i) {
+      form.MovePlatforms();
+      places[run].push_back(Document.Platforms[0].Xpos());
+    }
+  }
+  EXPECT_EQ(places[0], places[1]);
+}
+
+TEST_F(PanelTest, NewPlatformsPauseThoseThatRunWhateverTheButtonSays) {
+  c.mnu_MovingPlatform.UserClicks();
+  c.mnu_copy.UserClicks();
+  for (MenuItem* item : {&c.mnu_MovingPlatform, &c.mnu_Paste}) {
+    c.mnu_playmode.UserClicks();
+    c.mnu_editmode.UserClicks();
+    EXPECT_FALSE(Document.PlatformsPaused);
+    EXPECT_EQ(c.cmd_pause.Caption(), "UnPause Platforms") << "a read leaves it alone";
+    item->UserClicks();
+    EXPECT_TRUE(Document.PlatformsPaused);
+    EXPECT_EQ(c.cmd_pause.Caption(), "UnPause Platforms");
+  }
 }
 
 TEST_F(PanelTest, StretchActsOnPlainBlocksAndPlatforms) {
@@ -90,7 +115,12 @@ TEST_F(PanelTest, StretchActsOnPlainBlocksAndPlatforms) {
   Block().changeactioncode(clsblock::Ice);
   c.Combo1.UserSelects(4);
   EXPECT_EQ(Block().ScaleTextureTop(), 2);
+  selection::ShowProperties();
+  EXPECT_FALSE(c.Combo1.Enabled() || c.Combo2.Enabled());
+  EXPECT_EQ(c.Combo1.ListIndex(), 2);
+  EXPECT_EQ(c.Combo2.ListIndex(), 3);
   c.mnu_MovingPlatform.UserClicks();
+  EXPECT_TRUE(c.Combo1.Enabled() && c.Combo2.Enabled());
   c.Combo2.UserSelects(5);
   EXPECT_EQ(Document.Platforms[0].ScaleTextureSide(), 5);
 }
@@ -99,6 +129,12 @@ TEST_F(PanelTest, RampButtonAndTextureList) {
   c.mnu_Ramp.UserClicks();
   c.cmd_ramp.UserClicks();
   EXPECT_EQ(Document.Ramps[0].rotateVal(), 1);
+  EXPECT_EQ(Document.Ramps[0].GeometryVertices()[0].colour, 0x888888U) << "still marked";
+  Document.ObjectSelected = false;
+  c.cmd_ramp.UserClicks();
+  EXPECT_EQ(Document.Ramps[0].rotateVal(), 2) << "the type is enough";
+  EXPECT_EQ(Document.Ramps[0].GeometryVertices()[0].colour, 0xFFFFFFU);
+  Document.ObjectSelected = true;
   c.File1.UserDoubleClicks(1);
   EXPECT_EQ(Document.Ramps[0].GetTextureA(), c.File1.Entries()[1]);
 }
@@ -131,6 +167,7 @@ TEST_F(PanelTest, KeysMoveResizeAndPaint) {
   EXPECT_EQ(Block().GetTextureA(), c.File1.Entries()[1]);
   Press(46);
   EXPECT_EQ(Document.BlockCount, -1);
+  EXPECT_EQ(c.txt_width.Text(), "1") << "the panel shows the empty selection";
   Press(32);
   EXPECT_EQ(Document.BlockCount, 0);
   Press(123);
@@ -148,6 +185,16 @@ TEST_F(PanelTest, HeldCommandsRunOncePerPress) {
   c.frmMain.UserReleasesKey(116, 0);
   for (int i = 0; i < 5; ++i) c.frmMain.UserPressesKey('I', 2);
   EXPECT_EQ(Document.BlockCount, 1);
+  for (int i = 0; i < 5; ++i) c.frmMain.UserPressesKey(32, 0);
+  c.frmMain.UserReleasesKey('I', 2);
+  c.frmMain.UserPressesKey(32, 0);
+  EXPECT_EQ(Document.BlockCount, 2) << "one block per press";
+  Press(32);
+  Press(32);
+  EXPECT_EQ(Document.BlockCount, 3);
+  selection::DeleteSelection();
+  selection::DeleteSelection();
+  Document.BlockCount = 1;
   c.frmMain.UserReleasesKey('I', 2);
   c.frmMain.UserPressesKey(17, 2);
   c.frmMain.UserPressesKey('I', 2);

@@ -63,6 +63,62 @@ TEST_F(PlayModeTest, DeathStartsOverWithTheTrackOfTheBeginning) {
   EXPECT_TRUE(boxes.messages.empty());
 }
 
+/// A picture that cannot be read for a moment must not cost the track.
+TEST_F(PlayModeTest, AFailedRestoreGivesTheEditedPiecesBack) {
+  AddPlatform();
+  Document.Blocks[0].Texture("a.bmp", "D", Document.TextureDir);
+  c.mnu_low.UserClicks();
+  c.mnu_background2.UserClicks();
+  const std::string track = Bytes();
+  const std::string picture = folder / "textures/a.bmp";
+  const auto damage = [&] { WriteBytes(picture, "damaged"); };
+  const auto mend = [&] { WriteBytes(picture, ""); };
+  const auto expectEditedTrack = [&](size_t messages) {
+    EXPECT_EQ(Document.EditorMode, EditMode);
+    EXPECT_EQ(Bytes(), track);
+    EXPECT_EQ(boxes.messages.size(), messages);
+    EXPECT_TRUE(c.mnu_editmode.Checked() && c.mnu_low.Checked() && c.mnu_background2.Checked());
+    EXPECT_EQ(Document.Background.Name(), folder / "backgrounds/bk001.jpg");
+    PassAfter(41);
+  };
+  const auto play = [&] {
+    c.mnu_playmode.UserClicks();
+    Document.Blocks[0].Ypos(30);
+    c.mnu_normal.UserClicks();
+    c.mnu_background3.UserClicks();
+    Document.Platforms.clear();
+    Document.PlatformCount = -1;
+  };
+  damage();
+  c.mnu_playmode.UserClicks();
+  EXPECT_TRUE(Document.ObjectSelected) << "play was not entered";
+  EXPECT_EQ(Document.Blocks[0].GeometryVertices()[0].colour, 0x888888U);
+  expectEditedTrack(1);
+  EXPECT_NE(boxes.messages[0].find("a.bmp"), std::string::npos);
+
+  mend();
+  play();
+  damage();
+  c.mnu_editmode.UserClicks();
+  EXPECT_FALSE(Document.ObjectSelected);
+  EXPECT_EQ(Document.Blocks[0].GeometryVertices()[0].colour, 0x9A9A9AU) << "without its old mark";
+  expectEditedTrack(2);
+
+  mend();
+  play();
+  damage();
+  Player.DeathStatus(true);
+  Frames(3);
+  expectEditedTrack(3);
+
+  // A missing picture is read as the default one; the track keeps its name.
+  mend();
+  play();
+  std::filesystem::remove(picture);
+  c.mnu_editmode.UserClicks();
+  expectEditedTrack(3);
+}
+
 TEST_F(PlayModeTest, NothingOfPlayReachesTheTrack) {
   for (MenuItem* item : c.mnu_insert.items) item->UserClicks();
   c.mnu_copy.UserClicks();

@@ -60,10 +60,14 @@ TEST_F(SelectionTest, RunningPlatformsRefuse) {
             (std::vector<std::string>{selection::kPauseFirstText, selection::kPauseFirstText}));
   EXPECT_EQ(Document.Platforms[0].GetInitalXpos(), 0);
   EXPECT_EQ(Document.Platforms[0].scaleX(), 2);
+  EXPECT_FALSE(c.cmbo_Direction.Enabled());
   c.cmd_pause.UserClicks();
-  selection::MoveSelection(1, 0, 0);
+  selection::MoveSelection(1, 2, 3);
   selection::ResizeSelection(5, 3, 0);
+  EXPECT_TRUE(c.cmbo_Direction.Enabled());
   EXPECT_EQ(Document.Platforms[0].GetInitalXpos(), 1);
+  EXPECT_EQ(Document.Platforms[0].GetInitalYpos(), 2);
+  EXPECT_EQ(Document.Platforms[0].GetInitalZpos(), 3);
   EXPECT_EQ(Document.Platforms[0].scaleX(), 5);
   EXPECT_EQ(Document.Platforms[0].scaleZ(), 2);
 }
@@ -109,6 +113,9 @@ TEST_F(SelectionTest, PaintingFollowsTheKindAndRemovesTheMark) {
 TEST_F(SelectionTest, CopiesOfEveryKind) {
   c.mnu_building.UserClicks();
   selection::MoveSelection(5, 5, 5);
+  LastBlock().ScaleTextureSide(2);
+  LastBlock().scaleX(2.5F);
+  LastBlock().scaleZ(3.5F);
   c.mnu_copy.UserClicks();
   c.VScroll1.Value(960);
   c.mnu_Paste.UserClicks();
@@ -117,7 +124,12 @@ TEST_F(SelectionTest, CopiesOfEveryKind) {
   EXPECT_EQ(LastBlock().Ypos(), 0);
   EXPECT_EQ(LastBlock().Zpos(), 40);
   EXPECT_EQ(LastBlock().scaleY(), 4);
+  EXPECT_EQ(LastBlock().scaleX(), 2) << "halves to even";
+  EXPECT_EQ(LastBlock().scaleZ(), 4);
   EXPECT_EQ(LastBlock().ScaleTextureTop(), 1);
+  EXPECT_EQ(LastBlock().ScaleTextureSide(), 2);
+  EXPECT_EQ(LastBlock().GeometryVertices()[1].tu, 2) << "and is seen";
+  EXPECT_EQ(LastBlock().GeometryVertices()[19].tu, 1);
   EXPECT_EQ(LastBlock().changeactioncode(), 10);
   EXPECT_EQ(LastBlock().GetTextureB(), "building Side.bmp");
   EXPECT_TRUE(Document.PlatformsPaused) << "the menu's paste pauses";
@@ -175,10 +187,16 @@ TEST_F(SelectionTest, DeletingInsideTheRowSendsPlatformsToTheirStarts) {
   EXPECT_FALSE(Document.ObjectSelected);
   const std::array<float, 4> starts = {0, 1, 3, 4};
   for (size_t i = 0; i < 4; ++i) EXPECT_EQ(Document.Platforms[i].Xpos(), starts[i]);
-  for (int i = 0; i < 10; ++i) form.MovePlatforms();
+  for (int i = 0; i < 110; ++i) form.MovePlatforms();
   Select(TypePlatform, 3);
   selection::DeleteSelection();
-  EXPECT_EQ(Document.Platforms[0].Xpos(), 0.5F) << "the last one leaves the others";
+  EXPECT_EQ(Document.Platforms[0].Mdir(), clsMovingPlatform::Left);
+  EXPECT_EQ(Document.Platforms[0].Xpos(), 4.55F) << "the last one leaves the others";
+  Select(TypePlatform, 2);
+  Document.PlatformCount = 3;
+  Document.Platforms.push_back(Document.Platforms[0]);
+  selection::DeleteSelection();
+  EXPECT_EQ(Document.Platforms[0].Mdir(), clsMovingPlatform::Right) << "the direction too";
 }
 
 TEST_F(SelectionTest, LastOfAKindAndLastBlock) {

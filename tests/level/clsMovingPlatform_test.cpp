@@ -41,9 +41,28 @@ TEST_F(PlatformTest, SwingsBackAndForth) {
   EXPECT_EQ(platform.GetInitalXpos(), 0.0F);
 }
 
+TEST_F(PlatformTest, VelocityIsWhatTheNextStepAdds) {
+  for (uint8_t speed = 0; speed <= 20; ++speed) {
+    for (uint8_t distance = 0; distance <= 10; ++distance) {
+      platform.create(-7.3F, 0, 0);
+      platform.Xpos(-7.3F);
+      platform.Mdir(distance % 2 == 0 ? clsMovingPlatform::Left : clsMovingPlatform::Right);
+      platform.Mspeed(speed);
+      platform.Mdist(distance);
+      for (int i = 0; i < 300; ++i) {
+        const float before = platform.Xpos(), velocity = platform.GetVelocity().x;
+        platform.move();
+        ASSERT_NEAR(platform.Xpos() - before, velocity, 1e-3) << int{speed} << ' ' << int{distance};
+      }
+    }
+  }
+}
+
 TEST_F(PlatformTest, WithoutLoopJumpsBackToItsStart) {
   platform.MloopBack(false);
-  Move(101);
+  Move(100);
+  EXPECT_EQ(platform.GetVelocity(), Vector3()) << "a jump carries nobody";
+  Move(1);
   EXPECT_EQ(platform.Xpos(), 0.0F);
   EXPECT_EQ(platform.Mdir(), clsMovingPlatform::Right);
 }

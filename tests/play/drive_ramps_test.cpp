@@ -86,6 +86,22 @@ TEST_F(RampDriveTest, ClimbsAndDescendsSideways) {
   }
 }
 
+TEST_F(RampDriveTest, EverySlopeHoldsAStandingCar) {
+  for (const float height : {1.0F, 4.0F, 9.0F}) {
+    for (int rotation = 0; rotation < 4; ++rotation) {
+      RemoveRamps();
+      AddRamp({-2, 1, 10}, {4, height, 4}, rotation);
+      track_tool::Drive drive;
+      Player.Posz(12.4F);
+      Player.PosY(1 + height);
+      const Row row = Continue(drive, "60 -").back();
+      EXPECT_TRUE(row.onGround) << height << ' ' << rotation;
+      // The touching edge of the box lies 0.4 above the middle of the slope, seen along it.
+      EXPECT_NEAR(row.y, 1 + height * 0.6, 0.1) << height << ' ' << rotation;
+    }
+  }
+}
+
 TEST_F(RampDriveTest, SidesAndRisersStopSideways) {
   for (int rotation = 0; rotation < 4; ++rotation) {
     RemoveRamps();

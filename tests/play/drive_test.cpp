@@ -202,6 +202,29 @@ TEST_F(DriveTest, RidesAPlatformThroughItsTurns) {
   EXPECT_NEAR(offset(), landed + 0.6, 1e-3);
 }
 
+TEST_F(DriveTest, AStandingCarDoesNotDriftAtAnySpeedOrDistance) {
+  AddBlock({100, 0, 100}, {1, 1, 1});
+  AddPlatform({-12, 0, 0}, {24, 1, 20}, clsMovingPlatform::Right);
+  for (uint8_t speed = 1; speed <= 20; ++speed) {
+    for (const uint8_t distance : {uint8_t{1}, uint8_t{3}, uint8_t{10}}) {
+      Document.Platforms[0].Mspeed(speed);
+      Document.Platforms[0].Mdist(distance);
+      track_tool::Drive drive;
+      const clsMovingPlatform& platform = Document.Platforms[0];
+      const auto offsetAtTheLeftEnd = [&] {
+        do {
+          Continue(drive, "1 -");
+        } while (!platform.GetChangeDir() || platform.Mdir() != clsMovingPlatform::Right);
+        return Player.Posx() - platform.Xpos();
+      };
+      Continue(drive, kLand);
+      const float first = offsetAtTheLeftEnd();
+      offsetAtTheLeftEnd();
+      EXPECT_NEAR(offsetAtTheLeftEnd(), first, 1e-3) << int{speed} << ' ' << int{distance};
+    }
+  }
+}
+
 TEST_F(DriveTest, APlatformPushesAndTwoOfThemSqueeze) {
   AddFloor();
   AddPlatform({3, 1, 0}, {2, 3, 20}, clsMovingPlatform::Left);
