@@ -109,32 +109,30 @@ std::optional<clsShadow::Ground> clsShadow::FindShadowGround(const Vector3& poin
                                                              const Nearby& nearby) {
   std::optional<Ground> ground;
   float best = kDepth;
-  const auto offer = [&](const std::optional<Vector3>& hit, const Ground& candidate) {
-    const float distance = hit ? maths::Distance(point, *hit) : best;
+  const auto offer = [&](const Vector3& hit, double top, float riseX = 0, float riseZ = 0) {
+    const float distance = maths::Distance(point, hit);
     if (distance >= best) return;
     best = distance;
-    ground = candidate;
-    ground->point.x = hit->x;
-    ground->point.z = hit->z;
+    ground = {{hit.x, ToSingle(top), hit.z}, riseX, riseZ};
   };
   for (const size_t i : nearby.blocks) {
     const clsblock& block = Document.Blocks[i];
     // A falling block was drawn before it fell in this frame.
     const double top = double{block.Ypos()} + block.scaleY() + block.fallvel();
-    offer(TopBelow(block, point), {{0, ToSingle(top), 0}});
+    if (const auto hit = TopBelow(block, point)) offer(*hit, top);
   }
   for (const size_t i : nearby.platforms) {
     const clsMovingPlatform& platform = Document.Platforms[i];
-    offer(TopBelow(platform, point),
-          {{0, ToSingle(double{platform.Ypos()} + platform.scaleY()), 0}});
+    const double top = double{platform.Ypos()} + platform.scaleY();
+    if (const auto hit = TopBelow(platform, point)) offer(*hit, top);
   }
   for (const size_t i : nearby.ramps) {
     const clsRamp& ramp = Document.Ramps[i];
-    const auto hit = TopBelow(ramp, point);
-    if (!hit) continue;
     const bool alongZ = ramp.rotateVal() % 2 == 0;
     const float rise = ramp.GetGradient();
-    offer(hit, {{0, hit->y, 0}, alongZ ? 0 : rise, alongZ ? rise : 0});
+    if (const auto hit = TopBelow(ramp, point)) {
+      offer(*hit, hit->y, alongZ ? 0 : rise, alongZ ? rise : 0);
+    }
   }
   return ground;
 }

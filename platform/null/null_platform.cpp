@@ -18,6 +18,7 @@ class NullExecutor : public Executor {
     screen.worlds = frame.worlds;
     screen.cameras = frame.cameras;
     screen.states = frame.states;
+    screen.resources = frame.resources;
     ++screen.frames;
   }
 

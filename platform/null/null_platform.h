@@ -22,6 +22,7 @@ struct Screen {
   std::vector<Matrix4> worlds;
   std::vector<Camera> cameras;
   std::vector<DeviceStates> states;
+  std::vector<std::shared_ptr<const void>> resources;  ///< keep alive what the commands point to
   int frames = 0;
 };
 

@@ -77,6 +77,12 @@ TEST_F(EditorTest, FrameDrawsBackdropFirstWithoutDepth) {
   ASSERT_EQ(screen.commands.size(), 6U);
   EXPECT_EQ(screen.commands[0].kind, Command::Kind::Clear);
   EXPECT_EQ(screen.commands[1].primitive, Primitive::TriangleStrip);
+  EXPECT_EQ(screen.commands[1].vertexCount, 4U);
+  const auto corners = screen.commands[1].buffer->Vertices<ScreenVertex>();
+  for (size_t i = 0; i < 4; ++i) {
+    const float u = i % 2 == 0 ? 0 : 1, v = i < 2 ? 0 : 1, z = i == 0 ? 1 : 0;
+    EXPECT_EQ(corners[i], (ScreenVertex{601 * u, 457 * v, z, 1, 0xFFFFFF, 0, u, v})) << i;
+  }
   EXPECT_FALSE(screen.states[screen.commands[1].states].depthWrite);
   EXPECT_TRUE(screen.states[screen.commands[2].states].depthWrite);
   const DeviceStates& states = screen.states[screen.commands[2].states];
@@ -109,6 +115,13 @@ TEST_F(EditorTest, ScrollBarAndShiftArrowsMoveTheCamera) {
   c.VScroll1.Value(0);
   PassAfter(41);
   EXPECT_EQ(c.VScroll1.Value(), 0);
+  world->keys[scancode::kUp] = 0;
+  world->keys[scancode::kDown] = kKeyHeld;
+  PassAfter(41);
+  EXPECT_EQ(c.VScroll1.Value(), 1);
+  c.VScroll1.Value(1000);
+  PassAfter(41);
+  EXPECT_EQ(c.VScroll1.Value(), 1000);
   EXPECT_TRUE(boxes.messages.empty());
 }
 
@@ -307,7 +320,8 @@ TEST_F(EditorTest, PanelShowsEachKind) {
   EXPECT_EQ(c.Combo1.ListIndex(), -1);
   Document.ObjectSelected = false;
   selection::ShowProperties();
-  EXPECT_EQ(c.txt_width.Text(), "1");
+  EXPECT_EQ(c.txt_width.Text() + c.txt_height.Text() + c.txt_depth.Text(), "111");
+  EXPECT_EQ(c.txt_X.Text() + c.txt_Y.Text() + c.txt_Z.Text(), "000");
   EXPECT_FALSE(c.Combo1.Enabled());
 }
 

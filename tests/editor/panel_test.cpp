@@ -137,6 +137,12 @@ TEST_F(PanelTest, RampButtonAndTextureList) {
   Document.ObjectSelected = true;
   c.File1.UserDoubleClicks(1);
   EXPECT_EQ(Document.Ramps[0].GetTextureA(), c.File1.Entries()[1]);
+  Document.ObjectSelected = false;
+  c.File1.UserDoubleClicks(2);
+  Document.ObjectSelected = true;
+  Document.EditorMode = PlayMode;
+  c.File1.UserDoubleClicks(2);
+  EXPECT_EQ(Document.Ramps[0].GetTextureA(), c.File1.Entries()[1]);
 }
 
 TEST_F(PanelTest, KeysMoveResizeAndPaint) {

@@ -81,16 +81,28 @@ TEST_F(PickRayTest, PassesThroughTheClickedPoint) {
                std::overflow_error);
 }
 
-TEST_F(PickRayTest, StartsInFrontOfTheCamera) {
-  DirectX::ResetCamera();
-  Vector3 nearPoint, farPoint;
-  maths::GetPickRay(300, 228, DirectX::kFieldOfView, 601, 457, nearPoint, farPoint, 1, 100);
-  EXPECT_NEAR(maths::Distance(DirectX::CameraPosition, nearPoint), 1.0, 1e-4);
-  // The centre ray goes towards the target, 24.76 away.
-  const double length = maths::Distance(DirectX::CameraPosition, DirectX::CameraTarget);
-  EXPECT_NEAR(length, 24.76, 0.01);
-  EXPECT_NEAR(farPoint.x, 0, 1e-4);
-  EXPECT_NEAR((farPoint.z + 18) / 100, 18 / length, 1e-4);
+/// What is seen at a pixel is what the ray through that pixel meets.
+TEST_F(PickRayTest, IsTheInverseOfTheProjection) {
+  DirectX::CameraPosition = {3, 20, -10};
+  DirectX::CameraTarget = {-4, 5, 30};
+  DirectX::ApplyCamera();
+  for (const auto& [x, y] : {std::pair{0, 0}, {150, 400}, {300, 228}, {590, 20}}) {
+    Vector3 nearPoint, farPoint, seen;
+    maths::GetPickRay(static_cast<float>(x), static_cast<float>(y), DirectX::kFieldOfView, 601, 457,
+                      nearPoint, farPoint, 1, 100);
+    for (const auto& [point, depth] : {std::pair{nearPoint, 1.0}, {farPoint, 100.0}}) {
+      maths::TransformCoord(seen, point, DirectX::MatView);
+      EXPECT_NEAR(seen.z, depth, 1e-3);
+      maths::TransformCoord(seen, Vector3(seen), DirectX::MatProj);
+      EXPECT_NEAR((seen.x + 1) * 300, x, 0.05);
+      EXPECT_NEAR((1 - seen.y) * 228, y, 0.05);
+      EXPECT_NEAR(seen.z, 500.0 / 499 * (1 - 1 / depth), 1e-4) << "depth 0 at 1, 1 at 500";
+    }
+  }
+  Vector3 up, left;
+  maths::TransformCoord(up, {-4, 6, 30}, DirectX::MatView);
+  maths::TransformCoord(left, {-5, 5, 30}, DirectX::MatView);
+  EXPECT_TRUE(std::abs(up.x) < 1e-4 && up.y > 0 && left.x < 0) << "upright, x to the right";
 }
 
 }  // namespace

@@ -37,6 +37,7 @@ TEST_F(ParticlesTest, AStarBurstsIntoThirtyPoints) {
   EXPECT_EQ(random.reseeded, 90);
   const Particle& point = particles.ParticleList()[0];
   EXPECT_EQ(point.Position, (Vector3{1.2F, 2.5F, 2.8F}));
+  EXPECT_NEAR(point.Velocity.x, 0, 1e-6);
   EXPECT_NEAR(point.Velocity.y, 0.6, 1e-6);
   EXPECT_EQ(point.Life, 10000);
   EXPECT_EQ(point.StartColour, (ColourValue{5, 5, 5, 1})) << "5.1 of 0.1 to 10, whole";
@@ -56,9 +57,14 @@ TEST_F(ParticlesTest, AStarBurstsIntoThirtyPoints) {
 
   random.value = 0;
   particles.AddStarExplosion(0, 5, 0);
+  EXPECT_NEAR(particles.ParticleList()[30].Velocity.x, -0.3, 1e-6);
   EXPECT_NEAR(particles.ParticleList()[30].Velocity.y, -0.6, 1e-6);
+  EXPECT_EQ(particles.ParticleVertices()[30].colour, 0xFF000000U) << "0.1, whole, is none";
   DrawAt(5040);
+  EXPECT_NEAR(particles.ParticleList()[30].Position.x, 0.2 - 0.3 / 5, 1e-6);
   EXPECT_GT(particles.ParticleList()[30].Velocity.y, 0) << "only its first step goes down";
+  random.value = 0.999F;
+  EXPECT_EQ(clsParticles::RandomColour(), 10);
 }
 
 TEST_F(ParticlesTest, ListEmptiesWhenAllAreDead) {

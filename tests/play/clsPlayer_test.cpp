@@ -32,9 +32,11 @@ TEST_F(PlayerTest, SpeedsHaveLimits) {
   car.ForwardVelocity(0.03F);
   car.deccelerate();
   EXPECT_EQ(car.ForwardVelocity(), 0);
-  car.HorizontalVelocity(-1);
-  car.HorizontalVelocity(1.5F);
-  EXPECT_EQ(car.HorizontalVelocity(), -1);
+  for (const float limit : {-1.0F, 1.0F}) {
+    car.HorizontalVelocity(limit);
+    car.HorizontalVelocity(limit * 1.01F);
+    EXPECT_EQ(car.HorizontalVelocity(), limit);
+  }
 }
 
 TEST_F(PlayerTest, CollisionBox) {
@@ -45,6 +47,23 @@ TEST_F(PlayerTest, CollisionBox) {
   EXPECT_EQ(car.GetCollisionPoint(6), (Vector4{0.4F, 4.3F, 1 - 0.8F, 0}));
   EXPECT_EQ(car.GetCollisionPoint(7), (Vector4{-0.4F, 3.5F, 1 - 0.8F, 0}));
   EXPECT_THROW(car.GetCollisionPoint(9), std::out_of_range);
+}
+
+TEST_F(PlayerTest, TheCameraFollowsAlongTheTrackOnly) {
+  AddFloor();
+  track_tool::Drive drive;
+  for (const char* keys : {"30 up+right", "20 jump", "9 down+left"}) {
+    const Row row = Continue(drive, keys).back();
+    EXPECT_NEAR(DirectX::CameraPosition.z, row.z - 19, 1e-4);
+    EXPECT_NEAR(DirectX::CameraTarget.z, row.z - 1, 1e-4);
+    EXPECT_EQ(DirectX::CameraPosition.x + DirectX::CameraTarget.x, 0);
+    EXPECT_EQ(DirectX::CameraPosition.y, 25);
+    EXPECT_EQ(DirectX::CameraTarget.y, 8);
+    const Matrix4 view = DirectX::D3DDevice->GetTransform(Transform::View);
+    EXPECT_EQ(view, DirectX::MatView);
+    DirectX::ApplyCamera();
+    EXPECT_EQ(view, DirectX::MatView) << "as any camera of that place";
+  }
 }
 
 TEST_F(PlayerTest, SlidingOnIceTurnsThePicture) {
@@ -73,6 +92,13 @@ TEST_F(PlayerTest, JumpPadSpinsItTwiceAboutItsMiddle) {
 }
 
 TEST_F(PlayerTest, ExplosionStandsStillWithTheCamera) {
+  world->decoder = [](const std::string&) {
+    Image image(64, 64, 0xFFFFFFFF);
+    image.At(0, 0) = 0xFF000000;
+    return image;
+  };
+  StartDevice();
+  Player.load(folder / "models/player.x");
   AddFloor();
   track_tool::Drive drive;
   Continue(drive, "20 up");
@@ -87,6 +113,16 @@ TEST_F(PlayerTest, ExplosionStandsStillWithTheCamera) {
   const DeviceStates& states = world->screen.states[sprite.states];
   EXPECT_EQ(states.pointSize, 0.06F);
   EXPECT_TRUE(states.alphaBlend && !states.depthWrite);
+  EXPECT_TRUE(DirectX::D3DDevice->States().depthWrite);
+  EXPECT_EQ(world->screen.worlds[sprite.world], d3dx::Identity());
+  const PointVertex& point = sprite.buffer->Vertices<PointVertex>()[0];
+  EXPECT_EQ(point.x, 0);
+  EXPECT_NEAR(point.y, kStanding + 1, kNear);
+  EXPECT_NEAR(point.z, Player.Posz() - 0.5, kNear);
+  EXPECT_EQ(point.colour, 0xFFFFFFFFU);
+  EXPECT_EQ(sprite.texture->Level(0).At(0, 0), 0U) << "black becomes transparent";
+  EXPECT_EQ(sprite.texture->Level(0).At(63, 63), 0xFFFFFFFFU);
+  EXPECT_EQ(sprite.texture->PixelFormat(), TextureObject::Format::Colour16Alpha1);
   EXPECT_EQ(Player.ExplosionFrame(), 2);
   // Blank pictures.
   Continue(drive, "40 -");

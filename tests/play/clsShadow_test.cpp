@@ -1,5 +1,7 @@
 #include "render/clsShadow.h"
 
+#include <cmath>
+
 #include "level/maths.h"
 #include "tests/play/play_test.h"
 
@@ -43,8 +45,11 @@ TEST_F(ShadowTest, FourPiecesMakeOnePictureUnderTheCar) {
   }
   for (size_t i = 0; i < corners.size(); i += 3) {
     Vector3 normal;
-    maths::FaceNormal(corners[i].place, corners[i + 1].place, corners[i + 2].place, normal);
+    const Vector3 &a = corners[i].place, &b = corners[i + 1].place, &c = corners[i + 2].place;
+    maths::FaceNormal(a, b, c, normal);
     EXPECT_NEAR(normal.y, 1, 1e-5);
+    const double area = (double{c.x} - a.x) * (b.z - a.z) - (double{b.x} - a.x) * (c.z - a.z);
+    EXPECT_NEAR(std::abs(area), 0.45 * 0.45, 1e-5) << "half a piece";
   }
 }
 
@@ -65,6 +70,8 @@ TEST_F(ShadowTest, NothingBelowNothingDrawn) {
   AddBlock({0, 0, 0}, {10, 1, 20});
   EXPECT_EQ(Draw({0, 5, 10}).size(), 12U) << "the left half hangs over the edge";
   EXPECT_TRUE(Draw({5, 5, 40}).empty());
+  EXPECT_EQ(Draw({5, 5, 20.5F}).size(), 12U) << "its back half is over it still";
+  EXPECT_TRUE(Draw({5, 5, 20.5F}, {0, 0, 0.6F, 0}).empty()) << "not where it is going to be";
   EXPECT_TRUE(Draw({5, 0, 10}).empty()) << "the block is above the car";
   EXPECT_TRUE(Draw({5, 98, 10}).empty()) << "that high, the search ends above the block";
 }

@@ -102,6 +102,22 @@ TEST_F(RampDriveTest, EverySlopeHoldsAStandingCar) {
   }
 }
 
+TEST_F(RampDriveTest, OneEndOfTheTouchingEdgeHoldsIt) {
+  for (int rotation = 0; rotation < 4; ++rotation) {
+    RemoveRamps();
+    AddRamp({-2, 1, 10}, {4, 4, 4}, rotation);
+    for (const float over : {-2.5F, -2.3F, 2.3F, 2.5F}) {
+      track_tool::Drive drive;
+      // The edge runs along x, from 0.4 to both sides, or along z, from 0 to 0.8 back.
+      Player.Posx(rotation % 2 == 0 ? over : 0);
+      Player.Posz(rotation % 2 == 0 ? 12.4F : 12.4F + over);
+      Player.PosY(4.5F);
+      const Row row = Continue(drive, "40 -").back();
+      EXPECT_EQ(row.y > 2.5F, std::abs(over) < 2.4F) << rotation << ' ' << over << ' ' << row.y;
+    }
+  }
+}
+
 TEST_F(RampDriveTest, SidesAndRisersStopSideways) {
   for (int rotation = 0; rotation < 4; ++rotation) {
     RemoveRamps();
