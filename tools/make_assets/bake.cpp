@@ -1,5 +1,6 @@
 #include "tools/make_assets/bake.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace art {
@@ -38,28 +39,67 @@ Color Lit(const Sheet& sheet, int x, int y) {
   return here.color * light + Color{1, 1, 1} * (here.shine * glint);
 }
 
-}  // namespace
+using Colors = std::vector<Color>;
 
-Image BakeTile(int size, const TileFunction& surface) {
+/// A quarter of each neighbour along x or y, across the borders.
+Colors Smoothed(const Colors& from, int size, int dx, int dy) {
+  const auto at = [&](int x, int y) {
+    const int wx = (x + size) % size, wy = (y + size) % size;
+    return from[static_cast<size_t>(wy) * static_cast<size_t>(size) + static_cast<size_t>(wx)];
+  };
+  Colors to;
+  for (int y = 0; y < size; ++y) {
+    for (int x = 0; x < size; ++x) {
+      to.push_back(at(x, y) * 0.5 + (at(x - dx, y - dy) + at(x + dx, y + dy)) * 0.25);
+    }
+  }
+  return to;
+}
+
+Color Average(const Sheet& sheet, int x, int y) {
+  Color sum;
+  for (int i = 0; i < kTileSamples * kTileSamples; ++i) {
+    const int sx = x * kTileSamples + i % kTileSamples;
+    const int sy = y * kTileSamples + i / kTileSamples;
+    sum = sum + Lit(sheet, sx, sy);
+  }
+  return sum * (1.0 / (kTileSamples * kTileSamples));
+}
+
+/// The tile's colours before they become pixels.
+Colors BakeColors(int size, const TileFunction& surface) {
   Sheet sheet{size * kTileSamples, {}};
   for (int y = 0; y < sheet.side; ++y) {
     for (int x = 0; x < sheet.side; ++x) {
       sheet.texels.push_back(surface((x + 0.5) / sheet.side, (y + 0.5) / sheet.side));
     }
   }
+  Colors colors;
+  for (int i = 0; i < size * size; ++i) colors.push_back(Average(sheet, i % size, i / size));
+  colors = Smoothed(Smoothed(colors, size, 1, 0), size, 0, 1);
+  // Tracks are seen from above their near end: along them pixels are rarer still.
+  return Smoothed(colors, size, 0, 1);
+}
+
+Image ToImage(const Colors& colors, int size) {
   Image image(size, size);
-  for (int y = 0; y < size; ++y) {
-    for (int x = 0; x < size; ++x) {
-      Color sum;
-      for (int i = 0; i < kTileSamples * kTileSamples; ++i) {
-        const int sx = x * kTileSamples + i % kTileSamples;
-        const int sy = y * kTileSamples + i / kTileSamples;
-        sum = sum + Lit(sheet, sx, sy);
-      }
-      image.At(x, y) = ToPixel(sum * (1.0 / (kTileSamples * kTileSamples)));
-    }
-  }
+  std::ranges::transform(colors, image.pixels.begin(), ToPixel);
   return image;
+}
+
+}  // namespace
+
+Image BakeTile(int size, const TileFunction& surface) {
+  return ToImage(BakeColors(size, surface), size);
+}
+
+Image BakeFloor(const TileFunction& surface) {
+  constexpr double kSoftened = 0.45;
+  Colors colors = BakeColors(kUnitTile, surface);
+  Color mean;
+  for (const Color& color : colors) mean = mean + color * (1.0 / static_cast<double>(colors.size()));
+  for (Color& color : colors) color = Mix(color, mean, kSoftened);
+  return ToImage(colors, kUnitTile);
 }
 
 Image BakePicture(int width, int height, int samples, const PictureFunction& paint) {

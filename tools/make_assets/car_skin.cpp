@@ -12,6 +12,9 @@ namespace {
 constexpr Color kWhite = Hex(0xFFFFFF);
 constexpr Color kPaint = Hex(0xF2352B);
 constexpr Color kDarkPaint = Hex(0xB3181C);
+/// Roof and hood, seen the whole drive: no floor has this colour next to a dark seam.
+constexpr Color kRoof = Hex(0xFFF4D6);
+constexpr Color kSeam = Hex(0x3A0F14);
 constexpr Color kTyre = Hex(0x2B2C31);
 constexpr double kEdge = 0.004;
 
@@ -33,10 +36,11 @@ Color Wing(double along, double across) {
 // z counts from the front.
 Color CarTop(double x, double z) {
   if (x > kWingStrip) return Wing(z - kCarSize / 2, (x - kWingStrip - 0.010) / 0.060);
-  Color c = Mix(kPaint * 1.06, kPaint * 0.92, Smooth(0.2, 0.42, std::abs(x)));
-  c = Striped(c, x);
-  const double hood = std::abs(Box({x, z}, {0, 0.16}, {0.235, 0.13}, 0.05)) - 0.004;
-  c = Mix(c, c * 0.6, Cover(hood, kEdge));
+  // A light top with one broad stripe inside a dark seam, on red flanks.
+  Color c = Mix(kRoof, kPaint, Cover(std::abs(x) - 0.055, kEdge));
+  const double seam = std::abs(x) - 0.30;
+  c = Mix(kPaint, c, Cover(seam, kEdge));
+  c = Mix(c, kSeam, Cover(std::abs(seam) - 0.014, kEdge));
   const Point lamp{std::abs(x), z};
   return Mix(c, Hex(0xFFF7C8), Cover(Box(lamp, {0.19, 0.045}, {0.05, 0.028}, 0.02), kEdge));
 }

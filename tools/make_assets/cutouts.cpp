@@ -27,20 +27,20 @@ Image Spark() {
   return image;
 }
 
-// The order in which a 4 by 4 patch fills with dots.
+// The order in which a 4 by 4 patch fills with dots, each as large as can be seen.
 constexpr std::array<int, 16> kDots{0, 8, 2, 10, 12, 4, 14, 6, 3, 11, 1, 9, 15, 7, 13, 5};
 
 Image Shadow() {
-  constexpr int kSize = 64;
+  constexpr int kSize = 64, kDot = 2;
   Image image(kSize, kSize, kClear);
   for (int y = 0; y < kSize; ++y) {
     for (int x = 0; x < kSize; ++x) {
       const Point p{(x + 0.5) / kSize, (y + 0.5) / kSize};
       const double rim = Box(p, {0.5, 0.5}, {0.42, 0.44}, 0.24);
-      const double dark = Smooth(0.05, -0.17, rim);
-      const int dot = kDots[static_cast<size_t>(y % 4 * 4 + x % 4)];
-      if (dark > (dot + 0.5) / 16)
-        image.At(x, y) = ToPixel(Mix(Hex(0x2C2C30), Hex(0x141416), dark));
+      // Whole in the middle, thinning out towards the rim.
+      const double dark = Smooth(0.05, -0.30, rim);
+      const int dot = kDots[static_cast<size_t>(y / kDot % 4 * 4 + x / kDot % 4)];
+      if (dark > (dot + 0.5) / 16) image.At(x, y) = ToPixel(Hex(0x3C3C42));
     }
   }
   return image;

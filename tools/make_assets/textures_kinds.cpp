@@ -10,28 +10,23 @@
 namespace art {
 namespace {
 
-constexpr int kSize = 128;
 constexpr Point kMiddle{0.5, 0.5};
 
 double ToBorder(double u, double v) { return 0.5 - std::max(std::abs(u - 0.5), std::abs(v - 0.5)); }
 
 Texel DefaultTile(double u, double v) {
-  const double grain = Fractal(u, v, 8, 4, 11) - 0.5;
-  const double groove = Box({u, v}, kMiddle, {0.37, 0.37}, 0.09);
-  const double inlay = Cover(groove, 0.006);
-  const double stud = Circle({std::abs(u - 0.5), std::abs(v - 0.5)}, {0.43, 0.43}, 0.022);
+  const double groove = Box({u, v}, kMiddle, {0.35, 0.35}, 0.09);
   Texel t;
-  t.color = Mix(Hex(0xD0D8E4), Hex(0xA9BDD8), inlay * (0.75 + 0.25 * v)) * (1 + 0.10 * grain);
-  t.color = t.color * (1 - 0.45 * Cover(std::abs(groove) - 0.010, 0.006));
-  t.height = 0.030 * Smooth(0, 0.045, ToBorder(u, v)) - 0.012 * Cover(groove + 0.02, 0.025) +
-             0.010 * Cover(stud, 0.012) + 0.004 * grain;
-  t.shine = 0.30;
+  t.color = Mix(Hex(0xD0D8E4), Hex(0xA9BDD8), Cover(groove, 0.02) * (0.75 + 0.25 * v));
+  t.color = t.color * (1 - 0.35 * Cover(std::abs(groove) - 0.03, 0.015));
+  t.height = 0.030 * Smooth(0, 0.07, ToBorder(u, v)) - 0.012 * Cover(groove + 0.02, 0.03);
+  t.shine = 0.20;
   return t;
 }
 
 Texel JumpPad(double u, double v) {
   const double away = Circle({u, v}, kMiddle, 0);
-  const double wave = 0.5 + 0.5 * std::cos((away - 0.30) * 2 * kPi / 0.085);
+  const double wave = 0.5 + 0.5 * std::cos((away - 0.30) * 2 * kPi / 0.11);
   const double ring =
       Smooth(0.29, 0.31, away) * Smooth(0.47, 0.45, away) * Smooth(0.35, 0.65, wave);
   Texel t;
@@ -48,7 +43,7 @@ Texel JumpPad(double u, double v) {
 }
 
 Texel WinTile(double u, double v) {
-  constexpr int kSquares = 6;
+  constexpr int kSquares = 4;
   const bool dark = (static_cast<int>(u * kSquares) + static_cast<int>(v * kSquares)) % 2 != 0;
   const double banner = Box({u, v}, kMiddle, {0.47, 0.235}, 0.07);
   const Point p{u - 0.5, v - 0.5};
@@ -71,26 +66,26 @@ Texel WinTile(double u, double v) {
 }
 
 Texel FallingTile(double u, double v) {
-  const double bend = 0.03 * (Fractal(u, v, 6, 3, 31) - 0.5);
-  const Pebble shard = Pebbles(u + bend, v - bend, 4, 35);
+  const double bend = 0.03 * (Fractal(u, v, 3, 2, 31) - 0.5);
+  const Pebble shard = Pebbles(u + bend, v - bend, 2, 35);
   const double crack = shard.second - shard.nearest;
-  const double frame = Cover(ToBorder(u, v) - 0.045, 0.006);
+  const double frame = Cover(ToBorder(u, v) - 0.08, 0.01);
   Texel t;
-  t.color = Mix(Hex(0xFF4A3A), Hex(0xE22820), shard.id) * (0.92 + 0.2 * Fractal(u, v, 8, 3, 39));
-  t.color = Mix(t.color, Hex(0xFF7A1E), 0.8 * Smooth(0.30, 0.06, crack));
-  t.color = Mix(t.color, Hex(0x3A0503), Smooth(0.11, 0.06, crack));
-  const bool stripe = Part((u + v) * 4) < 0.5;
+  t.color = Mix(Hex(0xFF4A3A), Hex(0xE22820), shard.id) * (0.94 + 0.12 * Fractal(u, v, 4, 1, 39));
+  t.color = Mix(t.color, Hex(0xFF7A1E), 0.7 * Smooth(0.34, 0.10, crack));
+  t.color = Mix(t.color, Hex(0x6A120C), Smooth(0.20, 0.08, crack));
+  const bool stripe = Part((u + v) * 2) < 0.5;
   t.color = Mix(t.color, stripe ? Hex(0xFFD23A) : Hex(0x4A0906), frame);
-  t.height = frame > 0.5 ? 0.03 : 0.022 * Smooth(0.05, 0.16, crack);
+  t.height = frame > 0.5 ? 0.03 : 0.022 * Smooth(0.05, 0.25, crack);
   t.shine = 0.2;
   return t;
 }
 
 Texel IceTile(double u, double v) {
-  const double bend = 0.16 * (Fractal(u, v, 3, 4, 51) - 0.5);
+  const double bend = 0.16 * (Fractal(u, v, 2, 2, 51) - 0.5);
   const Pebble facet = Pebbles(u + bend, v - bend, 2, 57);
   const double crack = facet.second - facet.nearest;
-  const double frost = Fractal(u + v, v - u, 3, 4, 61);
+  const double frost = Fractal(u + v, v - u, 2, 2, 61);
   const double glare = Smooth(0.10, 0.16, Part(u + v + 0.06 * frost)) *
                        Smooth(0.36, 0.30, Part(u + v + 0.06 * frost));
   const double thin = Smooth(0.57, 0.60, Part(u + v)) * Smooth(0.66, 0.63, Part(u + v));
@@ -98,26 +93,26 @@ Texel IceTile(double u, double v) {
   t.color = Mix(Hex(0x7CCBF2), Hex(0xC4ECFD), Smooth(0.35, 0.65, frost));
   t.color = t.color * (0.92 + 0.10 * facet.id);
   t.color =
-      Mix(t.color, Hex(0x4FA4DC), 0.7 * Smooth(0.03, 0.05, crack) * Smooth(0.14, 0.05, crack));
-  t.color = Mix(t.color, Hex(0xFFFFFF), 0.95 * Smooth(0.05, 0.01, crack));
-  t.color = Screen(t.color, Hex(0xFFFFFF) * (0.55 * glare + 0.45 * thin));
-  t.height = 0.006 * Smooth(0, 0.12, crack) + 0.010 * frost;
+      Mix(t.color, Hex(0x4FA4DC), 0.5 * Smooth(0.08, 0.14, crack) * Smooth(0.30, 0.14, crack));
+  t.color = Mix(t.color, Hex(0xFFFFFF), 0.6 * Smooth(0.12, 0.02, crack));
+  t.color = Screen(t.color, Hex(0xFFFFFF) * (0.45 * glare + 0.3 * thin));
+  t.height = 0.010 * frost;
   t.shine = 0.3;
   return t;
 }
 
 Texel CrossTile(double u, double v) {
-  const double grain = Fractal(u, v, 10, 4, 71) - 0.5;
+  const double grain = Fractal(u, v, 3, 2, 71) - 0.5;
   // Turned by an eighth, both bars lie along the axes.
   const double a = std::abs(u - v) / std::sqrt(2.0), b = std::abs(u + v - 1) / std::sqrt(2.0);
   const double cross =
-      std::min(Box({a, b}, {}, {0.085, 0.46}, 0.03), Box({a, b}, {}, {0.46, 0.085}, 0.03));
+      std::min(Box({a, b}, {}, {0.095, 0.43}, 0.03), Box({a, b}, {}, {0.43, 0.095}, 0.03));
   Texel t;
-  t.color = Hex(0xB4B7BD) * (1 + 0.25 * grain);
-  t.color = Mix(t.color, Hex(0x63666D), 0.8 * Cover(ToBorder(u, v) - 0.025, 0.006));
-  t.color = Mix(t.color, Hex(0x4A1010), Cover(cross - 0.022, 0.008));
+  t.color = Hex(0xB4B7BD) * (1 + 0.18 * grain);
+  t.color = Mix(t.color, Hex(0x7B7E85), 0.8 * Cover(ToBorder(u, v) - 0.05, 0.01));
+  t.color = Mix(t.color, Hex(0x4A1010), Cover(cross - 0.035, 0.01));
   t.color = Mix(t.color, Hex(0xF2211F) * (1 + 0.12 * grain), Cover(cross, 0.006));
-  t.height = 0.018 * Smooth(0, 0.03, ToBorder(u, v)) + 0.016 * Cover(cross, 0.02) + 0.006 * grain;
+  t.height = 0.018 * Smooth(0, 0.06, ToBorder(u, v)) + 0.016 * Cover(cross, 0.03);
   t.shine = 0.3;
   return t;
 }
@@ -145,15 +140,15 @@ Texel TurboTile(double u, double v, int phase) {
 }  // namespace
 
 Pictures KindTextures() {
-  Pictures pictures{{"_default.bmp", BakeTile(kSize, DefaultTile)},
-                    {"Blue With Yellow Dot.bmp", BakeTile(kSize, JumpPad)},
-                    {"_WIN.bmp", BakeTile(kSize, WinTile)},
-                    {"red.bmp", BakeTile(kSize, FallingTile)},
-                    {"Ice2.bmp", BakeTile(kSize, IceTile)},
-                    {"Red Cross on Grey.bmp", BakeTile(kSize, CrossTile)}};
+  Pictures pictures{{"_default.bmp", BakeFloor(DefaultTile)},
+                    {"Blue With Yellow Dot.bmp", BakeTile(kWideTile, JumpPad)},
+                    {"_WIN.bmp", BakeTile(kWideTile, WinTile)},
+                    {"red.bmp", BakeTile(kUnitTile, FallingTile)},
+                    {"Ice2.bmp", BakeFloor(IceTile)},
+                    {"Red Cross on Grey.bmp", BakeTile(kUnitTile, CrossTile)}};
   for (int phase = 0; phase < kTurboPhases; ++phase) {
     const auto draw = [phase](double u, double v) { return TurboTile(u, v, phase); };
-    pictures.push_back({"AnimationTest_" + std::to_string(phase) + ".bmp", BakeTile(kSize, draw)});
+    pictures.push_back({"AnimationTest_" + std::to_string(phase) + ".bmp", BakeTile(kWideTile, draw)});
   }
   return pictures;
 }
