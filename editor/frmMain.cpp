@@ -10,10 +10,10 @@
 #include "play/DirectInput.h"
 #include "play/clsPlayer.h"
 #include "play/play_frame.h"
-#include "render/DirectX.h"
-#include "render/RenderFrame.h"
-#include "render/clsParticles.h"
-#include "render/clsShadow.h"
+#include "render/device/DirectX.h"
+#include "render/frame/RenderFrame.h"
+#include "render/device/clsParticles.h"
+#include "render/frame/clsShadow.h"
 
 namespace {
 

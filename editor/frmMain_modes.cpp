@@ -3,7 +3,7 @@
 #include "level/globals.h"
 #include "platform/dialogs.h"
 #include "play/play_frame.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 void frmMain::mnu_playmode_Click() {
   if (Document.EditorMode != EditMode) return;

@@ -6,7 +6,7 @@
 #include "level/globals.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace {
 

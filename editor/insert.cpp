@@ -3,7 +3,7 @@
 #include "editor/selection_state.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace insert {
 namespace {

@@ -5,7 +5,7 @@
 #include "level/maths.h"
 #include "platform/dialogs.h"
 #include "platform/numbers.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace picking {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "level/maths.h"
 #include "platform/numbers.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace box {
 namespace {

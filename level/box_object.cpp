@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "platform/numbers.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "level/box.h"
 #include "platform/numbers.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 void clsRamp::create(float CoordX, float CoordY, float CoordZ) {
   size_ = {1, 1, 1};

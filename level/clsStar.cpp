@@ -4,7 +4,7 @@
 #include "level/maths.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "level/track_values.h"
 #include "platform/numbers.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace {
 

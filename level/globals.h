@@ -12,7 +12,7 @@
 #include "level/clsblock.h"
 #include "level/fixed_text.h"
 #include "level/track_values.h"
-#include "render/clsBackground.h"
+#include "render/device/clsBackground.h"
 
 /// What level files carry for the game; the editor neither sets nor shows these.
 struct TrackSettingsRecord {

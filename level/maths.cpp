@@ -7,7 +7,7 @@
 
 #include "platform/d3dx_maths.h"
 #include "platform/numbers.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace maths {
 namespace {

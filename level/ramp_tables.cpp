@@ -2,7 +2,7 @@
 
 #include "level/maths.h"
 #include "platform/numbers.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace ramp {
 namespace {

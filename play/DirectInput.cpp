@@ -1,7 +1,7 @@
 #include "play/DirectInput.h"
 
 #include "platform/dialogs.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace DirectInput {
 namespace {

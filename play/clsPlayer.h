@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/d3dx.h"
-#include "render/clsParticles.h"
+#include "render/device/clsParticles.h"
 
 class clsPlayer {
  public:

@@ -8,8 +8,8 @@
 #include "platform/paths.h"
 #include "play/DirectInput.h"
 #include "play/clsPlayer.h"
-#include "render/DirectX.h"
-#include "render/clsShadow.h"
+#include "render/device/DirectX.h"
+#include "render/frame/clsShadow.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "level/globals.h"
 #include "platform/numbers.h"
 #include "play/clsPlayer.h"
-#include "render/clsParticles.h"
+#include "render/device/clsParticles.h"
 
 namespace CollisionDetection {
 namespace {

@@ -10,8 +10,8 @@
 #include "play/DirectInput.h"
 #include "play/PlayUpdate.h"
 #include "play/clsPlayer.h"
-#include "render/DirectX.h"
-#include "render/clsParticles.h"
+#include "render/device/DirectX.h"
+#include "render/device/clsParticles.h"
 
 namespace play {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "play/CollisionDetection.h"
 #include "play/clsPlayer.h"
-#include "render/clsParticles.h"
+#include "render/device/clsParticles.h"
 #include "tests/editor/editor_fixture.h"
 
 namespace {

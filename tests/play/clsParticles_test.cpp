@@ -1,4 +1,4 @@
-#include "render/clsParticles.h"
+#include "render/device/clsParticles.h"
 
 #include "platform/random.h"
 #include "tests/support/null_editor.h"

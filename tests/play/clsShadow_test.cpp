@@ -1,4 +1,4 @@
-#include "render/clsShadow.h"
+#include "render/frame/clsShadow.h"
 
 #include <cmath>
 

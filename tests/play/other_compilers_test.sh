@@ -8,7 +8,7 @@ trap 'rm -rf "$work"' EXIT
 cache=$(command -v ccache || true)
 
 sources=(platform/{clock,controls,d3dx,d3dx_maths,device,dialogs,paths,random,resources,text}.cpp
-  platform/null/*.cpp render/*.cpp level/*.cpp play/*.cpp files/*.cpp
+  platform/null/*.cpp render/*/*.cpp level/*.cpp play/*.cpp files/*.cpp
   tools/vorbilax_track/drive_{run,script}.cpp tests/play/trajectory_test.cpp)
 
 for variant in "g++ -O0" "clang++ -O2"; do

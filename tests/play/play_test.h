@@ -7,7 +7,7 @@
 #include "play/CollisionDetection.h"
 #include "play/DirectInput.h"
 #include "play/clsPlayer.h"
-#include "render/clsShadow.h"
+#include "render/frame/clsShadow.h"
 #include "tests/support/null_editor.h"
 #include "tools/vorbilax_track/drive_run.h"
 #include "tools/vorbilax_track/drive_script.h"

@@ -10,7 +10,7 @@
 #include "level/globals.h"
 #include "platform/null/null_platform.h"
 #include "platform/paths.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 /// A folder that is removed with the test.
 class TemporaryFolder {

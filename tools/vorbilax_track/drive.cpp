@@ -5,7 +5,7 @@
 #include "files/safe_writer.h"
 #include "platform/paths.h"
 #include "play/clsPlayer.h"
-#include "render/clsShadow.h"
+#include "render/frame/clsShadow.h"
 #include "tools/vorbilax_track/commands.h"
 #include "tools/vorbilax_track/drive_run.h"
 #include "tools/vorbilax_track/drive_script.h"

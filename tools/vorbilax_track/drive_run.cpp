@@ -11,8 +11,8 @@
 #include "play/DirectInput.h"
 #include "play/clsPlayer.h"
 #include "play/play_frame.h"
-#include "render/DirectX.h"
-#include "render/RenderFrame.h"
+#include "render/device/DirectX.h"
+#include "render/frame/RenderFrame.h"
 
 namespace track_tool {
 namespace {

@@ -8,7 +8,7 @@
 #include "platform/null/null_platform.h"
 #include "platform/paths.h"
 #include "platform/qt/images.h"
-#include "render/DirectX.h"
+#include "render/device/DirectX.h"
 
 namespace track_tool {
 namespace {

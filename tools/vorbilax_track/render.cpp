@@ -4,8 +4,8 @@
 #include "platform/error.h"
 #include "platform/numbers.h"
 #include "platform/qt/images.h"
-#include "render/DirectX.h"
-#include "render/RenderFrame.h"
+#include "render/device/DirectX.h"
+#include "render/frame/RenderFrame.h"
 #include "tools/vorbilax_track/commands.h"
 #include "tools/vorbilax_track/headless.h"
 

@@ -1,0 +1,118 @@
+#include "assets/readme.h"
+
+namespace art {
+namespace {
+
+constexpr char kStart[] = R"(VORBILAX LEVEL EDITOR
+=====================
+
+Build race tracks in the air out of blocks, ramps, pads, moving platforms and
+stars - then drive them.
+
+
+FIRST STEPS
+-----------
+1. Press Space to put a block in front of you, and move it with the arrow keys.
+2. Make it wider or longer with the number pad, add more blocks and a ramp.
+3. Double click on a texture to paint what is selected.
+4. Put a WIN block at the end (Ctrl+W).
+5. Press F3 and drive. F4 brings you back to editing.
+
+
+THE MENUS
+---------
+File    New                  F2
+        Open Track           Ctrl+O
+        Save Track           Ctrl+S
+        Save Track As
+        Quit                 Ctrl+Q
+
+Edit    Copy                 Ctrl+C
+        Cut                  Ctrl+X
+        Paste                Ctrl+V
+
+Mode    Play Mode!           F3
+        Edit Mode            F4
+
+Insert  New Block            Space
+        Moving Platform      Ctrl+M
+        Instant Kill Block   Ctrl+K
+        Falling Block        Ctrl+F
+        Ice Block            Ctrl+I
+        Ramp                 Ctrl+R
+        Win Level            Ctrl+W
+        Jump Pad             Ctrl+J
+        Turbo Pad            Ctrl+T
+        Building             Ctrl+B
+        Star                 F5
+
+Background
+        1 to 6               the picture behind the track
+
+Gravity Normal               F11
+        Low                  F12
+
+Help    About                Ctrl+A
+        How to Use           F1
+)";
+
+constexpr char kKeys[] = R"(
+
+EDITING WITH THE KEYBOARD
+-------------------------
+Left, Right           move the selection across the track
+Up, Down              move it along the track
+A, Z                  move it up and down
+Delete                delete it
+Keypad 7 or 9         one higher
+Keypad 1 or 3         one lower
+Keypad 6 and 4        one wider, one narrower
+Keypad 8 and 2        one deeper, one shallower
+Period and comma      next and previous texture
+Enter                 paint the selection with the current texture
+Shift+Up, Shift+Down  move the camera along the track; so does the scroll bar
+
+
+EDITING WITH THE MOUSE
+----------------------
+Click                 pick a block
+Right click           show what kind a block is; a platform or ramp is
+                      painted whole
+Shift+right click     paint the one face under the pointer
+Double click on a     paint the selection with it
+texture
+
+Moving platforms must stand still before they can be altered: choose
+"Pause Platforms" first.
+
+
+PLAYING
+-------
+Left, Right           steer
+Up, Down              accelerate and brake
+Space, Shift or Ctrl  jump
+
+Land on the WIN block to finish the track.
+Jump pads throw you up, turbo pads push you on, ice leaves you no grip, and
+falling blocks do not wait. Red crosses kill. Collect the stars on the way.
+Whoever falls off starts again.
+
+
+THE FOLDERS
+-----------
+levels        the tracks
+textures      what blocks can wear: add your own .bmp pictures
+backgrounds   the pictures behind the tracks
+models, skins the car and the star
+misc          explosion, sparks, shadow and icon
+)";
+
+}  // namespace
+
+std::string ReadmeText() {
+  std::string text(kStart);
+  text += kKeys;
+  return text;
+}
+
+}  // namespace art
