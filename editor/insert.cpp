@@ -79,9 +79,7 @@ float DepthAhead() { return ToSingle(double{DirectX::CameraPosition.z} + kTarget
 
 bool AddBlock(BlockKind kind) {
   if (!selection::RoomForOneMore(Document.BlockCount)) return false;
-  selection::AppendAndSelect(Document.Blocks, Document.BlockCount,
-                             MakeBlock(kBlocks[static_cast<size_t>(kind)]), TypeBlock)
-      .SelectBlock();
+  selection::AppendAndSelect(MakeBlock(kBlocks[static_cast<size_t>(kind)]));
   return true;
 }
 
@@ -97,9 +95,7 @@ bool AddPlatform() {
   platform.Mdist(5);
   platform.Mspeed(5);
   platform.Zpos(DepthAhead());
-  selection::AppendAndSelect(Document.Platforms, Document.PlatformCount, std::move(platform),
-                             TypePlatform)
-      .SelectBlock();
+  selection::AppendAndSelect(std::move(platform));
   return true;
 }
 
@@ -109,8 +105,7 @@ bool AddRamp() {
   ramp.create(0, 1, DepthAhead());
   Paint(ramp, std::array<const char*, 2>{kDefaultTexture, kDefaultTexture});
   ramp.scaleZ(2);
-  selection::AppendAndSelect(Document.Ramps, Document.RampCount, std::move(ramp), TypeRamp)
-      .SelectRamp();
+  selection::AppendAndSelect(std::move(ramp));
   return true;
 }
 
@@ -120,8 +115,7 @@ bool AddStar() {
   star.load(paths::InInstallFolder("\\models\\orb.x"));
   star.Ypos(1);
   star.Zpos(ToLong(double{DirectX::CameraPosition.z} + kStarAhead));
-  selection::AppendAndSelect(Document.Stars, Document.StarCount, std::move(star), TypeStar)
-      .selectstar();
+  selection::AppendAndSelect(std::move(star));
   return true;
 }
 

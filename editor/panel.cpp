@@ -46,7 +46,7 @@ void ConnectPosition(UpDown& upDown, int32_t dx, int32_t dy, int32_t dz) {
 template <typename Get, typename Set>
 void ConnectMotion(UpDown& upDown, TextBox& box, Get get, Set set) {
   const auto click = [&upDown, &box, get, set] {
-    clsMovingPlatform* platform = selection::PlatformAtIndex();
+    clsMovingPlatform* platform = selection::AtIndex<clsMovingPlatform>();
     if (platform == nullptr) return;
     if (!Document.PlatformsPaused) {
       upDown.Value(get(*platform));
@@ -60,7 +60,7 @@ void ConnectMotion(UpDown& upDown, TextBox& box, Get get, Set set) {
 }
 
 void cmbo_Direction_Click() {
-  clsMovingPlatform* platform = selection::PlatformAtIndex();
+  clsMovingPlatform* platform = selection::AtIndex<clsMovingPlatform>();
   const int index = Controls().cmbo_Direction.ListIndex();
   if (platform != nullptr && index >= 0) {
     platform->Mdir(static_cast<uint8_t>(index + clsMovingPlatform::Left));
@@ -69,7 +69,7 @@ void cmbo_Direction_Click() {
 
 void Check_Loop_Click() {
   CheckBox& box = Controls().Check_Loop;
-  clsMovingPlatform* platform = selection::PlatformAtIndex();
+  clsMovingPlatform* platform = selection::AtIndex<clsMovingPlatform>();
   if (platform == nullptr) return;
   if (Document.PlatformsPaused) {
     platform->MloopBack(box.Checked());
@@ -79,10 +79,10 @@ void Check_Loop_Click() {
 }
 
 void cmd_ramp_Click() {
-  if (Document.SelectedType == TypeRamp && Document.SelectedIndex <= Document.RampCount) {
-    selection::Selected(Document.Ramps).rotate();
+  if (clsRamp* ramp = selection::AtIndex<clsRamp>()) {
+    ramp->rotate();
     // The rotated wedge comes without the mark.
-    if (Document.ObjectSelected) selection::Selected(Document.Ramps).SelectRamp();
+    if (Document.ObjectSelected) selection::Mark(*ramp);
   }
   Controls().frmMain.SetFocus();
 }
@@ -101,15 +101,19 @@ void Pause(bool paused) {
 
 constexpr int16_t kTopFace = 0, kSideFaces = 1;
 
+/// Special blocks keep their stretch; ramps and stars have none.
+void Stretch(clsblock& block, int16_t side, int16_t value) {
+  if (block.changeactioncode() == clsblock::Normal) block.AlignTexureCoords(side, value);
+}
+void Stretch(clsMovingPlatform& platform, int16_t side, int16_t value) {
+  platform.AlignTexureCoords(side, value);
+}
+void Stretch(clsRamp&, int16_t, int16_t) {}
+void Stretch(clsStar&, int16_t, int16_t) {}
+
 void StretchClick(const DropDown& list, int16_t side) {
-  if (!Document.ObjectSelected || list.ListIndex() < 0) return;
-  const int16_t value = ToInteger(list.ListIndex());
-  if (Document.SelectedType == TypePlatform) {
-    selection::Selected(Document.Platforms).AlignTexureCoords(side, value);
-  } else if (Document.SelectedType == TypeBlock) {
-    clsblock& block = selection::Selected(Document.Blocks);
-    if (block.changeactioncode() == clsblock::Normal) block.AlignTexureCoords(side, value);
-  }
+  if (list.ListIndex() < 0) return;
+  VisitSelected([&](auto& piece) { Stretch(piece, side, ToInteger(list.ListIndex())); });
 }
 
 void File1_DblClick() {

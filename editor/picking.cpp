@@ -67,29 +67,22 @@ class NearestFace {
   int32_t type_ = 0, index_ = 0, plane_ = 0;
 };
 
-template <typename Object>
-void TestFaces(NearestFace& nearest, std::span<const Object> objects, int32_t type,
-               int16_t planeCount) {
-  for (size_t i = 0; i < objects.size(); ++i) {
-    const auto planes = objects[i].DrawnPlanes();
-    for (int16_t plane = 1; plane <= planeCount; ++plane) {
-      nearest.Test(planes[static_cast<size_t>(plane - 1)], objects[i].GetFaceCorners(plane), type,
-                   i, plane);
+template <typename Kind>
+void TestFaces(NearestFace& nearest, Kind kind) {
+  constexpr int16_t faces = std::is_same_v<typename Kind::Piece, clsStar> ? 4 : 5;
+  const auto pieces = kind.Pieces();
+  for (size_t i = 0; i < pieces.size(); ++i) {
+    const auto planes = pieces[i].DrawnPlanes();
+    for (int16_t plane = 1; plane <= faces; ++plane) {
+      nearest.Test(planes[static_cast<size_t>(plane - 1)], pieces[i].GetFaceCorners(plane),
+                   kind.type, i, plane);
     }
   }
 }
 
 NearestFace FindFace(const Ray& ray) {
   NearestFace nearest(ray);
-  const auto test = [&nearest]<typename Object>(const std::vector<Object>& objects, int32_t count,
-                                                int32_t type, int16_t planes) {
-    TestFaces(nearest, std::span<const Object>(objects.data(), static_cast<size_t>(count + 1)),
-              type, planes);
-  };
-  test(Document.Blocks, Document.BlockCount, TypeBlock, 5);
-  test(Document.Platforms, Document.PlatformCount, TypePlatform, 5);
-  test(Document.Ramps, Document.RampCount, TypeRamp, 5);
-  test(Document.Stars, Document.StarCount, TypeStar, 4);
+  VisitKinds([&nearest](auto kind) { TestFaces(nearest, kind); });
   return nearest;
 }
 
@@ -102,8 +95,7 @@ void PaintPickedFace(Box& box, const std::string& name) {
   box.Texture(name, letters[static_cast<size_t>(plane - 1)], Document.TextureDir);
 }
 
-void RightClickBlock(bool shift, const std::string& name) {
-  clsblock& block = selection::Selected(Document.Blocks);
+void RightClick(clsblock& block, bool shift, const std::string& name) {
   if (!shift) {
     dialogs::ShowMessage(std::to_string(block.changeactioncode()));
   } else if (block.changeactioncode() == clsblock::Normal) {
@@ -111,31 +103,18 @@ void RightClickBlock(bool shift, const std::string& name) {
   }
 }
 
-void RightClickPlatform(bool shift, const std::string& name) {
+void RightClick(clsMovingPlatform& platform, bool shift, const std::string& name) {
   if (!shift) return selection::RetextureSelection(name);
-  PaintPickedFace(selection::Selected(Document.Platforms), name);
+  PaintPickedFace(platform, name);
 }
 
-void RightClickRamp(bool shift, const std::string& name) {
+void RightClick(clsRamp& ramp, bool shift, const std::string& name) {
   if (!shift) return selection::RetextureSelection(name);
-  clsRamp& ramp = selection::Selected(Document.Ramps);
   if (Document.SelectedPlane == kTop) ramp.Texture(name, "A", Document.TextureDir);
   ramp.Texture(name, "B", Document.TextureDir);
 }
 
-void RightClick(bool shift) {
-  const std::string name = Controls().File1.FileName();
-  switch (Document.SelectedType) {
-    case TypeBlock:
-      return RightClickBlock(shift, name);
-    case TypePlatform:
-      return RightClickPlatform(shift, name);
-    case TypeRamp:
-      return RightClickRamp(shift, name);
-    default:
-      return;
-  }
-}
+void RightClick(clsStar&, bool, const std::string&) {}
 
 }  // namespace
 
@@ -145,7 +124,9 @@ void MouseDown(int button, int shift, float x, float y) {
   const bool found = FindFace(RayThrough(x, y)).Select();
   if (found) Controls().cmd_ramp.Enabled(Document.SelectedType == TypeRamp);
   selection::ShowProperties();
-  if (found && button == kRightButton) RightClick(shift != 0);
+  if (!found || button != kRightButton) return;
+  const std::string name = Controls().File1.FileName();
+  VisitSelected([&](auto& piece) { RightClick(piece, shift != 0, name); });
 }
 
 }  // namespace picking

@@ -26,12 +26,12 @@ void CopyBox(const BoxObject& box) {
   clip.ClipAlignSide = box.TextAlignSide();
 }
 
-void CopyBlock(const clsblock& block) {
+void Copy(const clsblock& block) {
   CopyBox(block);
   Document.Clipboard.ClipActionCode = block.changeactioncode();
 }
 
-void CopyRamp(const clsRamp& ramp) {
+void Copy(const clsRamp& ramp) {
   ClipboardRecord& clip = Document.Clipboard;
   clip.ClipTextureA = ramp.GetTextureA();
   clip.ClipTextureB = ramp.GetTextureB();
@@ -40,7 +40,7 @@ void CopyRamp(const clsRamp& ramp) {
   clip.ClipActionCode = 0;
 }
 
-void CopyPlatform(const clsMovingPlatform& platform) {
+void Copy(const clsMovingPlatform& platform) {
   CopyBox(platform);
   ClipboardRecord& clip = Document.Clipboard;
   clip.ClipLoopBack = platform.MloopBack();
@@ -49,6 +49,9 @@ void CopyPlatform(const clsMovingPlatform& platform) {
   clip.ClipDistance = platform.Mdist();
   clip.ClipActionCode = 0;
 }
+
+/// A star has nothing but its place, and that is not copied.
+void Copy(const clsStar&) {}
 
 template <typename Box>
 void PasteBoxTextures(Box& box) {
@@ -71,17 +74,17 @@ void PasteBoxStretch(BoxObject& box) {
   box.AlignTexureCoords(1, Document.Clipboard.ClipAlignSide);
 }
 
-void PasteBlock(float z) {
+void Paste(PieceKind<clsblock>, float z) {
   clsblock block;
   block.create(0, 0, z, 1, 1, 1);
   PasteBoxTextures(block);
   PasteBoxScales(block);
   PasteBoxStretch(block);
   block.changeactioncode(Document.Clipboard.ClipActionCode);
-  AppendAndSelect(Document.Blocks, Document.BlockCount, std::move(block), TypeBlock).SelectBlock();
+  AppendAndSelect(std::move(block));
 }
 
-void PasteRamp(float z) {
+void Paste(PieceKind<clsRamp>, float z) {
   const ClipboardRecord& clip = Document.Clipboard;
   clsRamp ramp;
   ramp.create(0, 1, z);
@@ -91,10 +94,10 @@ void PasteRamp(float z) {
   ramp.scaleY(ToInteger(clip.ClipScaleY));
   ramp.scaleZ(ToInteger(clip.ClipScaleZ));
   for (int turn = 0; turn < clip.ClipRotation; ++turn) ramp.rotate();
-  AppendAndSelect(Document.Ramps, Document.RampCount, std::move(ramp), TypeRamp).SelectRamp();
+  AppendAndSelect(std::move(ramp));
 }
 
-void PastePlatform(float z) {
+void Paste(PieceKind<clsMovingPlatform>, float z) {
   const ClipboardRecord& clip = Document.Clipboard;
   clsMovingPlatform platform;
   platform.create(0, 0, z);
@@ -106,23 +109,24 @@ void PastePlatform(float z) {
   platform.Mdist(ToByte(clip.ClipDistance));
   platform.Mspeed(ToByte(clip.ClipSpeed));
   platform.Zpos(z);  // where it starts, which create leaves alone
-  AppendAndSelect(Document.Platforms, Document.PlatformCount, std::move(platform), TypePlatform)
-      .SelectBlock();
+  AppendAndSelect(std::move(platform));
   Controls().frmMain.SetFocus();
 }
 
-template <typename Object>
-void Remove(std::vector<Object>& collection, int32_t& count) {
-  collection.erase(collection.begin() + Document.SelectedIndex);
-  --count;
+void Paste(PieceKind<clsStar>, float) { insert::AddStar(); }
+
+template <typename Kind>
+void Remove(Kind kind) {
+  kind.All().erase(kind.All().begin() + Document.SelectedIndex);
+  --kind.Count();
 }
 
 /// Deleting inside the row puts every platform back to its start; the last one leaves the others.
-void RemovePlatform() {
-  const bool last = Document.SelectedIndex == Document.PlatformCount;
-  Remove(Document.Platforms, Document.PlatformCount);
+void Remove(PieceKind<clsMovingPlatform> kind) {
+  const bool last = Document.SelectedIndex == kind.Count();
+  Remove<>(kind);
   if (last) return;
-  for (clsMovingPlatform& platform : Live(Document.Platforms, Document.PlatformCount)) {
+  for (clsMovingPlatform& platform : kind.Pieces()) {
     platform.Xpos(platform.GetInitalXpos());
     platform.Ypos(platform.GetInitalYpos());
     platform.Zpos(platform.GetInitalZpos());
@@ -130,78 +134,28 @@ void RemovePlatform() {
   }
 }
 
-/// Last index of the collection that a type code names.
-int32_t CountOf(int32_t type) {
-  switch (type) {
-    case TypeRamp:
-      return Document.RampCount;
-    case TypePlatform:
-      return Document.PlatformCount;
-    case TypeStar:
-      return Document.StarCount;
-    default:
-      return Document.BlockCount;
-  }
-}
-
 }  // namespace
 
 void CopySelection(bool cut) {
   if (!Document.ObjectSelected) return;
-  switch (Document.SelectedType) {
-    case TypeBlock:
-      CopyBlock(Selected(Document.Blocks));
-      break;
-    case TypeRamp:
-      CopyRamp(Selected(Document.Ramps));
-      break;
-    case TypePlatform:
-      CopyPlatform(Selected(Document.Platforms));
-      break;
-    default:
-      break;  // a star has nothing but its place, and that is not copied
-  }
+  VisitSelected([](const auto& piece) { Copy(piece); });
   Document.Clipboard.ClipType = static_cast<uint8_t>(Document.SelectedType);
   Document.ClipboardFull = true;
   if (cut) DeleteSelection();
 }
 
 void PasteClipboard() {
-  if (!Document.ClipboardFull || !RoomForOneMore(CountOf(Document.Clipboard.ClipType))) return;
-  const float z = insert::DepthAhead();
-  switch (Document.Clipboard.ClipType) {
-    case TypeBlock:
-      PasteBlock(z);
-      break;
-    case TypeRamp:
-      PasteRamp(z);
-      break;
-    case TypePlatform:
-      PastePlatform(z);
-      break;
-    default:
-      insert::AddStar();
-      break;
-  }
-  ShowProperties();
+  if (!Document.ClipboardFull) return;
+  VisitKind(Document.Clipboard.ClipType, [](auto kind) {
+    if (!RoomForOneMore(kind.Count())) return;
+    Paste(kind, insert::DepthAhead());
+    ShowProperties();
+  });
 }
 
 void DeleteSelection() {
   if (!Document.ObjectSelected) return;
-  switch (Document.SelectedType) {
-    case TypeBlock:
-      Remove(Document.Blocks, Document.BlockCount);
-      break;
-    case TypeRamp:
-      Remove(Document.Ramps, Document.RampCount);
-      break;
-    case TypePlatform:
-      RemovePlatform();
-      break;
-    default:
-      Remove(Document.Stars, Document.StarCount);
-      break;
-  }
+  VisitKind(Document.SelectedType, [](auto kind) { Remove(kind); });
   Document.ObjectSelected = false;
 }
 

@@ -10,7 +10,7 @@ bool Inside(const UpDown& range, double value) {
   return value >= range.Minimum() && value <= range.Maximum();
 }
 
-void MoveBlock(clsblock& block, int32_t dx, int32_t dy, int32_t dz) {
+void Move(clsblock& block, int32_t dx, int32_t dy, int32_t dz) {
   const MainControls& c = Controls();
   const double x = double{block.Xpos()} + dx, y = double{block.Ypos()} + dy;
   if (Inside(c.UpDownX, x)) block.Xpos(ToSingle(x));
@@ -20,8 +20,8 @@ void MoveBlock(clsblock& block, int32_t dx, int32_t dy, int32_t dz) {
 }
 
 /// For ramps and stars, whose places are whole numbers without a range.
-template <typename Object>
-void MoveWhole(Object& object, int32_t dx, int32_t dy, int32_t dz) {
+template <typename Piece>
+void MoveWhole(Piece& object, int32_t dx, int32_t dy, int32_t dz) {
   object.Xpos(ToLong(static_cast<double>(object.Xpos()) + dx));
   object.Ypos(ToLong(static_cast<double>(object.Ypos()) + dy));
   object.Zpos(ToLong(static_cast<double>(object.Zpos()) + dz));
@@ -33,21 +33,21 @@ bool PlatformsMayChange() {
   return Document.PlatformsPaused;
 }
 
-void MovePlatform(clsMovingPlatform& platform, int32_t dx, int32_t dy, int32_t dz) {
+void Move(clsMovingPlatform& platform, int32_t dx, int32_t dy, int32_t dz) {
   if (!PlatformsMayChange()) return;
   platform.Xpos(ToSingle(double{platform.Xpos()} + dx));
   platform.Ypos(ToSingle(double{platform.Ypos()} + dy));
   platform.Zpos(ToSingle(double{platform.Zpos()} + dz));
 }
 
-template <typename Size, typename Object>
-void Resize(Object& object, int32_t width, int32_t height, int32_t depth) {
+template <typename Size, typename Piece>
+void SetSizes(Piece& object, int32_t width, int32_t height, int32_t depth) {
   if (width > 0) object.scaleX(static_cast<Size>(width));
   if (height > 0) object.scaleY(static_cast<Size>(height));
   if (depth > 0) object.scaleZ(static_cast<Size>(depth));
 }
 
-void ResizeBlock(clsblock& block, int32_t width, int32_t height, int32_t depth) {
+void Resize(clsblock& block, int32_t width, int32_t height, int32_t depth) {
   switch (block.changeactioncode()) {
     case clsblock::WinLevel:
     case clsblock::JumpPad:
@@ -56,98 +56,70 @@ void ResizeBlock(clsblock& block, int32_t width, int32_t height, int32_t depth) 
     default:
       break;
   }
-  Resize<float>(block, width, height, depth);
+  SetSizes<float>(block, width, height, depth);
   block.SelectBlock();
 }
 
-template <typename Object>
-void Paint(Object& object, const std::string& name, std::initializer_list<const char*> faces) {
-  for (const char* face : faces) object.Texture(name, face, Document.TextureDir);
+template <typename Piece>
+void PaintFaces(Piece& piece, const std::string& name, std::initializer_list<const char*> faces) {
+  for (const char* face : faces) piece.Texture(name, face, Document.TextureDir);
 }
 
-void PaintBlock(clsblock& block, const std::string& name) {
+void Paint(clsblock& block, const std::string& name) {
   switch (block.changeactioncode()) {
     case clsblock::Normal:
-      return Paint(block, name, {"A", "B", "C", "D"});
+      return PaintFaces(block, name, {"A", "B", "C", "D"});
     case clsblock::TurboPad:
-      return Paint(block, name, {"A", "B", "C"});
+      return PaintFaces(block, name, {"A", "B", "C"});
     default:
       return dialogs::ShowMessage(kSpecialBlockText);
   }
 }
 
-void PaintRamp(clsRamp& ramp, const std::string& name) {
-  Paint(ramp, name, {"A", "B"});
+void Paint(clsRamp& ramp, const std::string& name) {
+  PaintFaces(ramp, name, {"A", "B"});
   ramp.UpdateChanges();
 }
 
-void ResizeRamp(clsRamp& ramp, int32_t width, int32_t height, int32_t depth) {
-  Resize<int16_t>(ramp, width, height, depth);
+void Paint(clsMovingPlatform& platform, const std::string& name) {
+  PaintFaces(platform, name, {"A", "B", "C", "D"});
+}
+
+void Paint(clsStar&, const std::string&) {}
+
+void Resize(clsRamp& ramp, int32_t width, int32_t height, int32_t depth) {
+  SetSizes<int16_t>(ramp, width, height, depth);
   ramp.UpdateChanges();
 }
 
-void MoveRamp(clsRamp& ramp, int32_t dx, int32_t dy, int32_t dz) {
+void Resize(clsMovingPlatform& platform, int32_t width, int32_t height, int32_t depth) {
+  if (PlatformsMayChange()) SetSizes<float>(platform, width, height, depth);
+}
+
+void Resize(clsStar&, int32_t, int32_t, int32_t) {}
+
+void Move(clsRamp& ramp, int32_t dx, int32_t dy, int32_t dz) {
   MoveWhole(ramp, dx, dy, dz);
   ramp.UpdateChanges();
 }
+
+void Move(clsStar& star, int32_t dx, int32_t dy, int32_t dz) { MoveWhole(star, dx, dy, dz); }
 
 }  // namespace
 
 void MoveSelection(int32_t dx, int32_t dy, int32_t dz) {
   if (!Document.ObjectSelected) return;
-  switch (Document.SelectedType) {
-    case TypeBlock:
-      MoveBlock(Selected(Document.Blocks), dx, dy, dz);
-      break;
-    case TypeRamp:
-      MoveRamp(Selected(Document.Ramps), dx, dy, dz);
-      break;
-    case TypePlatform:
-      MovePlatform(Selected(Document.Platforms), dx, dy, dz);
-      break;
-    case TypeStar:
-      MoveWhole(Selected(Document.Stars), dx, dy, dz);
-      break;
-    default:
-      break;
-  }
+  VisitSelected([=](auto& piece) { Move(piece, dx, dy, dz); });
   ShowProperties();
 }
 
 void ResizeSelection(int32_t width, int32_t height, int32_t depth) {
-  if (Document.ObjectSelected) {
-    switch (Document.SelectedType) {
-      case TypeBlock:
-        ResizeBlock(Selected(Document.Blocks), width, height, depth);
-        break;
-      case TypeRamp:
-        ResizeRamp(Selected(Document.Ramps), width, height, depth);
-        break;
-      case TypePlatform:
-        if (PlatformsMayChange()) Resize<float>(Selected(Document.Platforms), width, height, depth);
-        break;
-      default:
-        break;
-    }
-  }
+  VisitSelected([=](auto& piece) { Resize(piece, width, height, depth); });
   ShowProperties();
 }
 
 void RetextureSelection(const std::string& name) {
-  if (!Document.ObjectSelected) return;
-  switch (Document.SelectedType) {
-    case TypeBlock:
-      PaintBlock(Selected(Document.Blocks), name);
-      break;
-    case TypeRamp:
-      PaintRamp(Selected(Document.Ramps), name);
-      break;
-    case TypePlatform:
-      Paint(Selected(Document.Platforms), name, {"A", "B", "C", "D"});
-      break;
-    default:
-      break;
-  }
+  VisitSelected([&name](auto& piece) { Paint(piece, name); });
   DeselectCurrent();
 }
 

@@ -39,23 +39,23 @@ void EnableStretch() {
   Controls().Combo2.Enabled(true);
 }
 
-void ShowBlock(clsblock& block) {
+void Show(clsblock& block) {
   ShowSizesAndPlace(block);
-  block.SelectBlock();
+  Mark(block);
   if (block.changeactioncode() == clsblock::Normal) EnableStretch();
   ShowStretch(block);
 }
 
-void ShowRamp(clsRamp& ramp) {
+void Show(clsRamp& ramp) {
   ShowSizesAndPlace(ramp);
-  ramp.SelectRamp();
+  Mark(ramp);
   Controls().cmd_ramp.Enabled(true);
 }
 
-void ShowPlatform(clsMovingPlatform& platform) {
+void Show(clsMovingPlatform& platform) {
   MainControls& c = Controls();
   ShowSizesAndPlace(platform);
-  platform.SelectBlock();
+  Mark(platform);
   c.cmbo_Direction.ListIndex(platform.GetinitalMDir() - clsMovingPlatform::Left);
   ShowNumber(c.txt_distance, c.UpDown_distance, platform.Mdist());
   ShowNumber(c.txt_speed, c.UpDown_speed, platform.Mspeed());
@@ -66,42 +66,15 @@ void ShowPlatform(clsMovingPlatform& platform) {
   c.Check_Loop.Enabled(true);
 }
 
-void ShowStar(clsStar& star) {
+void Show(clsStar& star) {
   ShowPlace(1, 1, 1, star.Xpos(), star.Ypos(), star.Zpos());
-  star.selectstar();
-}
-
-void ShowSelected() {
-  switch (Document.SelectedType) {
-    case TypeBlock:
-      return ShowBlock(Selected(Document.Blocks));
-    case TypeRamp:
-      return ShowRamp(Selected(Document.Ramps));
-    case TypePlatform:
-      return ShowPlatform(Selected(Document.Platforms));
-    case TypeStar:
-      return ShowStar(Selected(Document.Stars));
-    default:
-      return;
-  }
+  Mark(star);
 }
 
 }  // namespace
 
 void DeselectCurrent() {
-  if (!Document.ObjectSelected) return;
-  switch (Document.SelectedType) {
-    case TypeBlock:
-      return Selected(Document.Blocks).UnSelectBlock();
-    case TypeRamp:
-      return Selected(Document.Ramps).UnSelectramp();
-    case TypePlatform:
-      return Selected(Document.Platforms).UnSelectBlock();
-    case TypeStar:
-      return Selected(Document.Stars).unSelectStar();
-    default:
-      return;
-  }
+  VisitSelected([](auto& piece) { Unmark(piece); });
 }
 
 void ShowProperties() {
@@ -111,7 +84,7 @@ void ShowProperties() {
     control->Enabled(false);
   }
   if (Document.ObjectSelected) {
-    ShowSelected();
+    VisitSelected([](auto& piece) { Show(piece); });
   } else {
     ShowPlace(1, 1, 1, 0, 0, 0);
   }

@@ -1,40 +1,35 @@
-// What the operations on the selection share: reaching the selected object, adding one.
+// What the operations on the selection share: reaching a piece that was selected, adding one.
 #pragma once
 
-#include <vector>
+#include <utility>
 
 #include "editor/selection.h"
-#include "level/globals.h"
+#include "editor/selection_mark.h"
 
 namespace selection {
 
-/// Element SelectedIndex of the collection. Throws std::out_of_range when there is none.
-template <typename Object>
-Object& Selected(std::vector<Object>& collection) {
-  return collection.at(static_cast<size_t>(Document.SelectedIndex));
+/// The piece of this class at SelectedIndex, whether it is selected or only was; null when the type
+/// is another or the piece is gone.
+template <typename Piece>
+Piece* AtIndex() {
+  constexpr PieceKind<Piece> kind;
+  const int32_t index = Document.SelectedIndex;
+  const bool exists = Document.SelectedType == kind.type && index >= 0 && index <= kind.Count();
+  return exists ? &kind.All()[static_cast<size_t>(index)] : nullptr;
 }
 
-/// The moving platform at SelectedIndex, whether it is selected or only was; null when the type is
-/// another or the platform is gone.
-inline clsMovingPlatform* PlatformAtIndex() {
-  const bool exists = Document.SelectedType == TypePlatform && Document.SelectedIndex >= 0 &&
-                      Document.SelectedIndex <= Document.PlatformCount;
-  return exists ? &Selected(Document.Platforms) : nullptr;
-}
-
-/// Puts a finished object at the end of its collection and makes it the selected one in place of
-/// the old; highlighting it is the caller's.
-template <typename Object>
-Object& AppendAndSelect(std::vector<Object>& collection, int32_t& count, Object object,
-                        ObjectType type) {
-  collection.resize(static_cast<size_t>(count) + 1);  // an index of -1 is no element
-  collection.push_back(std::move(object));
-  ++count;
+/// Puts a finished piece at the end of its collection and selects it, marked, in place of the old.
+template <typename Piece>
+void AppendAndSelect(Piece piece) {
+  constexpr PieceKind<Piece> kind;
+  kind.All().resize(static_cast<size_t>(kind.Count()) + 1);  // an index of -1 is no element
+  kind.All().push_back(std::move(piece));
+  ++kind.Count();
   DeselectCurrent();
-  Document.SelectedType = type;
-  Document.SelectedIndex = count;
+  Document.SelectedType = kind.type;
+  Document.SelectedIndex = kind.Count();
   Document.ObjectSelected = true;
-  return collection.back();
+  Mark(kind.All().back());
 }
 
 }  // namespace selection
