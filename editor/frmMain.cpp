@@ -39,6 +39,7 @@ frmMain::~frmMain() {
 bool frmMain::Form_Load() {
   if (!Start()) return false;
   while (Running_) Pass();
+  ReleaseDevices();
   return true;
 }
 
@@ -141,9 +142,14 @@ void frmMain::EndAfterFailedStart() {
 
 void frmMain::Shutdown() {
   Running_ = false;
+  // Keys and clicks may be waiting behind this one.
+  dialogs::CloseDoor();
+  about.window.Unload();
+  controls.frmMain.Unload();
+}
+
+void frmMain::ReleaseDevices() {
   DirectInput::KeyboardDevice.reset();
   DirectInput::DI.reset();
   DirectX::ReleaseDirectX();
-  about.window.Unload();
-  controls.frmMain.Unload();
 }
