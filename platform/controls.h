@@ -167,7 +167,8 @@ class PictureArea : public Control {
 
 class MenuItem : public Captioned {
  public:
-  std::string shortcut;  ///< "Ctrl+O", "F2"; empty: none
+  std::string shortcut;    ///< "Ctrl+O", "F2"; empty: none
+  bool checkable = false;  ///< has a place for a check mark
   std::vector<MenuItem*> items;
   std::function<void()> onClick;
   bool Checked() const { return checked_; }

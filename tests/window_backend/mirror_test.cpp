@@ -99,6 +99,7 @@ TEST_F(Mirroring, ClicksReachTheControls) {
 }
 
 TEST_F(Mirroring, MenuCheckMarkMovesOnlyWhenTheProgramMovesIt) {
+  EXPECT_TRUE(Action("mnu_low").isCheckable()) << "it shows an empty box before it is checked";
   window_.low.onClick = window_.normal.onClick = count_;
   Action("mnu_low").trigger();
   Action("mnu_normal").trigger();
@@ -109,6 +110,7 @@ TEST_F(Mirroring, MenuCheckMarkMovesOnlyWhenTheProgramMovesIt) {
   window_.low.Checked(true);
   EXPECT_FALSE(Action("mnu_normal").isChecked());
   EXPECT_TRUE(Action("mnu_low").isChecked());
+  EXPECT_FALSE(Action("mnu_open").isCheckable());
 }
 
 TEST_F(Mirroring, UserCannotCloseTheWindowButTheProgramCan) {
