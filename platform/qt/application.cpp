@@ -9,7 +9,7 @@
 #include "platform/qt/message_pump.h"
 #include "platform/qt/theme.h"
 #include "platform/qt/window_view.h"
-#include "platform/qt/x_auto_repeat.h"
+#include "platform/qt/x_held_keys.h"
 
 namespace qt {
 namespace {
