@@ -8,6 +8,7 @@
 #include "platform/qt/graphics.h"
 #include "platform/qt/message_pump.h"
 #include "platform/qt/theme.h"
+#include "platform/qt/toolkit_start.h"
 #include "platform/qt/window_view.h"
 #include "platform/qt/x_held_keys.h"
 
@@ -25,20 +26,21 @@ class DesktopShell : public Shell {
 
 // Destroyed from the bottom up: the toolkit's own object goes last.
 struct Application::Parts {
-  QApplication toolkit;
+  std::unique_ptr<QApplication> toolkit;
   EventPump pump;
   DialogBoxes dialogs;
   DesktopShell desktop;
   std::vector<std::unique_ptr<WindowView>> windows;
 
-  Parts(int& argc, char** argv) : toolkit(argc, argv) {}
+  Parts(int& argc, char** argv, QSize client) : toolkit(StartToolkit(argc, argv, client)) {}
 };
 
-Application::Application(int& argc, char** argv) : parts_(std::make_unique<Parts>(argc, argv)) {
+Application::Application(int& argc, char** argv, int clientWidth, int clientHeight)
+    : parts_(std::make_unique<Parts>(argc, argv, QSize(clientWidth, clientHeight))) {
   // The program's own loop decides when it ends.
   QApplication::setQuitOnLastWindowClosed(false);
   StopAutoRepeatReleases();
-  ApplyTheme(parts_->toolkit);
+  ApplyTheme(*parts_->toolkit);
 }
 
 Application::~Application() = default;
