@@ -26,6 +26,7 @@ double Milliseconds(int64_t counts, int64_t frequency) {
 }  // namespace
 
 frmMain::frmMain(const Services& services) : services_(services) {
+  about.window.owner = &controls.frmMain;
   ticks::Use(&services_.clock);
   ConnectEvents();
   FileIO::TrackReplaced = [this] { TrackReplaced(); };

@@ -33,6 +33,13 @@ struct Application::Parts {
   std::vector<std::unique_ptr<WindowView>> windows;
 
   Parts(int& argc, char** argv, QSize client) : toolkit(StartToolkit(argc, argv, client)) {}
+
+  WindowView* ViewOf(const ::Window* window) const {
+    for (const auto& view : windows) {
+      if (window != nullptr && view->Shows(*window)) return view.get();
+    }
+    return nullptr;
+  }
 };
 
 Application::Application(int& argc, char** argv, int clientWidth, int clientHeight)
@@ -51,7 +58,7 @@ Shell& Application::Desktop() { return parts_->desktop; }
 std::unique_ptr<PlatformRoot> Application::CreateRoot() { return std::make_unique<GraphicsRoot>(); }
 
 void Application::Build(::Window& window) {
-  parts_->windows.push_back(std::make_unique<WindowView>(window));
+  parts_->windows.push_back(std::make_unique<WindowView>(window, parts_->ViewOf(window.owner)));
 }
 
 void Application::Discard(const ::Window& window) {

@@ -46,6 +46,16 @@ setxkbmap us
 key Escape
 wait_for "the dialog Open to close" no_window_named Open
 
+# About stays above the main window and is answered by keys.
+about="About Vorbilax Level Editor"
+for answer in Return Escape space; do
+  key ctrl+a
+  wait_for "About" window_named "$about"
+  xprop -id "$(window_named "$about")" WM_TRANSIENT_FOR | grep -q '# 0x' || fail "About has no owner"
+  key "$answer"
+  wait_for "About to close" no_window_named "$about"
+done
+
 # Whatever waits behind the end reaches nothing.
 xdotool windowactivate --sync "$main"
 xdotool mousemove --window "$main" 300 $((menu + 200))
