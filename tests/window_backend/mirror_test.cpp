@@ -35,6 +35,9 @@ TEST_F(Mirroring, CaptionsAndTexts) {
   Find<QPushButton>("button").setFocus();
   window_.SetFocus();
   EXPECT_TRUE(Find<QWidget>("client").hasFocus());
+  Find<QComboBox>("drop").setFocus();
+  window_.drop.Enabled(false);
+  EXPECT_TRUE(Find<QWidget>("client").hasFocus()) << "not the next control";
   EXPECT_EQ(Action("mnu_open").text(), "Copy && Keep");
   window_.open.Caption("Copy");
   EXPECT_EQ(Action("mnu_open").text(), "Copy");
