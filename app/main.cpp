@@ -5,7 +5,9 @@
 #include "platform/qt/application.h"
 
 int main(int argc, char** argv) {
-  qt::Application application(argc, argv);
+  // The main window's client area.
+  constexpr int kWidth = 800, kHeight = 574;
+  qt::Application application(argc, argv, kWidth, kHeight);
   paths::InstallFolder(paths::ProgramFolder());
   dialogs::Use(&application.Dialogs());
   createPlatformRoot = [&application] { return application.CreateRoot(); };

@@ -23,6 +23,7 @@ frmAbout::frmAbout() {
   add(lblVersion, "lblVersion", {80, 40, 224, 20});
   add(cmdOK, "cmdOK", {224, 80, 80, 26});
   lblTitle.bold = true;
+  window.defaultButton = &cmdOK;
   cmdOK.Caption("OK");
   cmdOK.onClick = [this] { window.Unload(); };
   window.onUnload = [this] { window.Unload(); };

@@ -26,6 +26,7 @@ double Milliseconds(int64_t counts, int64_t frequency) {
 }  // namespace
 
 frmMain::frmMain(const Services& services) : services_(services) {
+  about.window.owner = &controls.frmMain;
   ticks::Use(&services_.clock);
   ConnectEvents();
   FileIO::TrackReplaced = [this] { TrackReplaced(); };
@@ -39,6 +40,7 @@ frmMain::~frmMain() {
 bool frmMain::Form_Load() {
   if (!Start()) return false;
   while (Running_) Pass();
+  ReleaseDevices();
   return true;
 }
 
@@ -141,9 +143,14 @@ void frmMain::EndAfterFailedStart() {
 
 void frmMain::Shutdown() {
   Running_ = false;
+  // Keys and clicks may be waiting behind this one.
+  dialogs::CloseDoor();
+  about.window.Unload();
+  controls.frmMain.Unload();
+}
+
+void frmMain::ReleaseDevices() {
   DirectInput::KeyboardDevice.reset();
   DirectInput::DI.reset();
   DirectX::ReleaseDirectX();
-  about.window.Unload();
-  controls.frmMain.Unload();
 }

@@ -53,6 +53,7 @@ class frmMain {
   void MoveCameraByKeys();
   void EndAfterFailedStart();
   void Shutdown();
+  void ReleaseDevices();
 
   // frmMain_events.cpp: wires controls to handlers
   void ConnectEvents();

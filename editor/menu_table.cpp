@@ -8,6 +8,7 @@ struct MenuRow {
   const char* caption;
   const char* shortcut;
   MenuItem MainControls::*menu;  ///< null: a top-level menu
+  bool checkable = false;
 };
 
 using M = MainControls;
@@ -26,8 +27,8 @@ const MenuRow kMenus[] = {
     {&M::mnu_Paste, "mnu_Paste", "Paste", "Ctrl+V", &M::mnu_edit},
 
     {&M::mnu_mode, "mnu_mode", "Mode", "", nullptr},
-    {&M::mnu_playmode, "mnu_playmode", "Play Mode!", "F3", &M::mnu_mode},
-    {&M::mnu_editmode, "mnu_editmode", "Edit Mode", "F4", &M::mnu_mode},
+    {&M::mnu_playmode, "mnu_playmode", "Play Mode!", "F3", &M::mnu_mode, true},
+    {&M::mnu_editmode, "mnu_editmode", "Edit Mode", "F4", &M::mnu_mode, true},
 
     {&M::mnu_insert, "mnu_insert", "Insert", "", nullptr},
     {&M::mnu_block, "mnu_block", "(Spacebar) New Block", "", &M::mnu_insert},
@@ -43,16 +44,16 @@ const MenuRow kMenus[] = {
     {&M::mnu_Star, "mnu_Star", "Star", "F5", &M::mnu_insert},
 
     {&M::mnu_background, "mnu_background", "Background", "", nullptr},
-    {&M::mnu_background1, "mnu_background1", "Background 1", "", &M::mnu_background},
-    {&M::mnu_background2, "mnu_background2", "Background 2", "", &M::mnu_background},
-    {&M::mnu_background3, "mnu_background3", "Background 3", "", &M::mnu_background},
-    {&M::mnu_background4, "mnu_background4", "Background 4", "", &M::mnu_background},
-    {&M::mnu_background5, "mnu_background5", "Background 5", "", &M::mnu_background},
-    {&M::mnu_background6, "mnu_background6", "Background 6", "", &M::mnu_background},
+    {&M::mnu_background1, "mnu_background1", "Background 1", "", &M::mnu_background, true},
+    {&M::mnu_background2, "mnu_background2", "Background 2", "", &M::mnu_background, true},
+    {&M::mnu_background3, "mnu_background3", "Background 3", "", &M::mnu_background, true},
+    {&M::mnu_background4, "mnu_background4", "Background 4", "", &M::mnu_background, true},
+    {&M::mnu_background5, "mnu_background5", "Background 5", "", &M::mnu_background, true},
+    {&M::mnu_background6, "mnu_background6", "Background 6", "", &M::mnu_background, true},
 
     {&M::mnu_Gravity, "mnu_Gravity", "Gravity", "", nullptr},
-    {&M::mnu_normal, "mnu_normal", "Normal", "F11", &M::mnu_Gravity},
-    {&M::mnu_low, "mnu_low", "Low", "F12", &M::mnu_Gravity},
+    {&M::mnu_normal, "mnu_normal", "Normal", "F11", &M::mnu_Gravity, true},
+    {&M::mnu_low, "mnu_low", "Low", "F12", &M::mnu_Gravity, true},
 
     {&M::mnu_help, "mnu_help", "Help", "", nullptr},
     {&M::mnu_about, "mnu_about", "About", "Ctrl+A", &M::mnu_help},
@@ -67,6 +68,7 @@ void MainControls::BuildMenus() {
     item.name = row.name;
     item.Caption(row.caption);
     item.shortcut = row.shortcut;
+    item.checkable = row.checkable;
     if (row.menu != nullptr) {
       (this->*row.menu).items.push_back(&item);
     } else {

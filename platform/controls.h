@@ -167,7 +167,8 @@ class PictureArea : public Control {
 
 class MenuItem : public Captioned {
  public:
-  std::string shortcut;  ///< "Ctrl+O", "F2"; empty: none
+  std::string shortcut;    ///< "Ctrl+O", "F2"; empty: none
+  bool checkable = false;  ///< has a place for a check mark
   std::vector<MenuItem*> items;
   std::function<void()> onClick;
   bool Checked() const { return checked_; }
@@ -184,7 +185,9 @@ class Window : public Captioned {
   int clientWidth = 0, clientHeight = 0;  ///< below the menu bar; the border is fixed
   std::vector<MenuItem*> menus;
   std::vector<Control*> controls;
-  std::function<void()> onUnload;  ///< the user closes the window
+  const Window* owner = nullptr;    ///< this window stays above its owner; null: it has none
+  Button* defaultButton = nullptr;  ///< is focused when the window is shown; Enter, Escape click it
+  std::function<void()> onUnload;   ///< the user closes the window
   /// Key messages arrive here before the focused control. The code is a virtual-key code; a
   /// handler that changes it keeps the key from the control. shift: mask of 1 Shift, 2 Ctrl, 4 Alt.
   std::function<void(int16_t& keyCode, int shift)> onKeyDown;

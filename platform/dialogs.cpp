@@ -10,9 +10,16 @@ Backend*& Current() {
   return backend;
 }
 
+bool open = true;
+
 }  // namespace
 
-void Use(Backend* backend) { Current() = backend; }
+void Use(Backend* backend) {
+  Current() = backend;
+  open = true;
+}
+
+void CloseDoor() { open = false; }
 
 void ShowMessage(const std::string& text) {
   if (Current() != nullptr) Current()->ShowMessage(text, kApplicationTitle);
@@ -27,7 +34,7 @@ std::optional<std::string> SaveFile(const FileDialog& dialog) {
 }
 
 void Enter(const std::function<void()>& handler) {
-  if (!handler) return;
+  if (!handler || !open) return;
   try {
     handler();
   } catch (const std::exception& failure) {

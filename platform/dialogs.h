@@ -31,6 +31,8 @@ class Backend {
 /// Names the backend that shows the dialogs; it must outlive its use. Null: messages are dropped
 /// and file dialogs are cancelled.
 void Use(Backend* backend);
+/// No handler is entered any more, until another backend is named.
+void CloseDoor();
 
 /// Message box with an OK button and the application's title.
 void ShowMessage(const std::string& text);

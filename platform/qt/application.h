@@ -11,11 +11,12 @@
 namespace qt {
 
 /// One per process, made first and destroyed last: devices and windows must not outlive it. Ends
-/// the process when there is no display.
+/// the process with status 1 and a line on the standard error when there is no display.
 class Application {
  public:
-  /// `argc` and `argv` must stay valid; the toolkit takes its own arguments out of them.
-  Application(int& argc, char** argv);
+  /// `argc` and `argv` must stay valid; the toolkit takes its own arguments out of them. The scale
+  /// is lowered, to 100 % at most, until a client area of this size fits the screen.
+  Application(int& argc, char** argv, int clientWidth = 0, int clientHeight = 0);
   ~Application();
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;

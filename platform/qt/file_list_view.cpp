@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QMouseEvent>
 #include <QPixmap>
 #include <QToolTip>
 #include <cmath>
@@ -85,6 +86,11 @@ FileListView::FileListView(QWidget* parent, FileList& list) : QListWidget(parent
   connect(this, &QListWidget::currentRowChanged, this, [&list](int row) { list.UserSelects(row); });
   connect(this, &QListWidget::doubleClicked, this,
           [&list](const QModelIndex& index) { list.UserDoubleClicks(index.row()); });
+}
+
+void FileListView::mouseDoubleClickEvent(QMouseEvent* event) {
+  // The toolkit reports a double click of every button.
+  if (event->button() == Qt::LeftButton) QListWidget::mouseDoubleClickEvent(event);
 }
 
 void FileListView::Show(const FileList& list) {

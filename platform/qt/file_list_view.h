@@ -37,6 +37,9 @@ class FileListView : public QListWidget {
   FileListView(QWidget* parent, FileList& list);
   void Show(const FileList& list);
 
+ protected:
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
  private:
   ThumbnailDelegate thumbnails_;
   std::string folder_;

@@ -32,6 +32,9 @@ void DrawBox(QPainter& painter, const QRectF& area, QRgb fill, QRgb line) {
 }
 
 void DrawField(QPainter& painter, const QStyleOption& option) {
+  if (option.state.testFlag(QStyle::State_ReadOnly)) {
+    return DrawBox(painter, option.rect, colours::kDisabled, colours::kDisabled);
+  }
   DrawBox(painter, option.rect, Enabled(option) ? colours::kSurface : colours::kDisabled,
           Focused(option) ? colours::kAccent : colours::kLine);
 }

@@ -12,7 +12,7 @@ namespace {
 void Show(const MenuItem& item, QAction& action) {
   action.setText(Literal(item.Caption()));
   action.setEnabled(item.Enabled());
-  if (item.Checked()) action.setCheckable(true);
+  action.setCheckable(item.checkable);
   action.setChecked(item.Checked());
 }
 

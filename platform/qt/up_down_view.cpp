@@ -1,5 +1,6 @@
 #include "platform/qt/up_down_view.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -17,6 +18,17 @@ ArrowButton::ArrowButton(QWidget* parent, bool up) : QAbstractButton(parent), up
 }
 
 QSize ArrowButton::sizeHint() const { return {17, 10}; }
+
+bool ArrowButton::event(QEvent* event) {
+  // The release will go to the other window; without it the click would repeat behind that one.
+  if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowDeactivate) {
+    setDown(false);
+    QMouseEvent release(QEvent::MouseButtonRelease, {-1, -1}, mapToGlobal(QPointF(-1, -1)),
+                        Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+    mouseReleaseEvent(&release);
+  }
+  return QAbstractButton::event(event);
+}
 
 void ArrowButton::paintEvent(QPaintEvent*) {
   QStyleOption option;

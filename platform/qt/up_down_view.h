@@ -7,11 +7,12 @@
 
 namespace qt {
 
-/// Half of the pair; repeats its click while it is held.
+/// Half of the pair; repeats its click while it is held and its window can be used.
 class ArrowButton : public QAbstractButton {
  public:
   ArrowButton(QWidget* parent, bool up);
   QSize sizeHint() const override;
+  bool event(QEvent* event) override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -31,6 +31,8 @@ QWidget* Build(Label& label, QWidget* parent) {
   widget->setTextFormat(Qt::PlainText);
   widget->setWordWrap(true);
   widget->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  // The words stand on the line of the numbers beside them.
+  widget->setContentsMargins(0, 2, 0, 0);
   widget->setFont(ControlFont(label.bold));
   Mirror<Label, QLabel>(label, widget, [](const Label& from, QLabel& to) {
     to.setText(QString::fromStdString(from.Caption()));
@@ -68,6 +70,9 @@ QWidget* Build(CheckBox& box, QWidget* parent) {
 QWidget* Build(TextBox& box, QWidget* parent) {
   auto* widget = new QLineEdit(parent);
   widget->setReadOnly(true);
+  // Nothing can be done with a display: a click goes to the window.
+  widget->setFocusPolicy(Qt::NoFocus);
+  widget->setAttribute(Qt::WA_TransparentForMouseEvents);
   widget->setTextMargins(2, 0, 2, 1);
   Mirror<TextBox, QLineEdit>(box, widget, [](const TextBox& from, QLineEdit& to) {
     const QString text = QString::fromStdString(from.Text());

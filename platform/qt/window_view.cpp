@@ -3,10 +3,12 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "platform/dialogs.h"
 #include "platform/paths.h"
@@ -17,9 +19,10 @@
 namespace qt {
 namespace {
 
-constexpr Qt::WindowFlags kDecoration = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                        Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                                        Qt::WindowCloseButtonHint;
+constexpr Qt::WindowFlags kDecoration = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                        Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+constexpr Qt::WindowFlags kMain = kDecoration | Qt::Window | Qt::WindowMinimizeButtonHint;
+constexpr Qt::WindowFlags kOwned = kDecoration | Qt::Dialog;
 
 void UseIcon(QWidget& view) {
   const QString file = QString::fromStdString(paths::InInstallFolder("\\misc\\icon.png"));
@@ -28,14 +31,15 @@ void UseIcon(QWidget& view) {
 
 }  // namespace
 
-WindowView::WindowView(::Window& window)
-    : QWidget(nullptr, kDecoration),
+WindowView::WindowView(::Window& window, WindowView* owner)
+    : QWidget(nullptr, owner != nullptr ? kOwned : kMain),
       window_(window),
       client_(new QWidget(this)),
       preview_(*this, window) {
   setObjectName(QString::fromStdString(window.name));
   UseIcon(*this);
   Fill();
+  if (owner != nullptr) StayAbove(*owner);
 
   const QPointer<WindowView> guard(this);
   window.mirror = [guard, &window] {
@@ -80,6 +84,13 @@ void WindowView::Fill() {
   client_->setFocus(Qt::OtherFocusReason);
 }
 
+void WindowView::StayAbove(WindowView& owner) {
+  // As a child the window would also be deleted and styled with its owner.
+  winId();
+  owner.winId();
+  windowHandle()->setTransientParent(owner.windowHandle());
+}
+
 QWidget* WindowView::WidgetFor(Control& control) {
   // A control may be listed before its parent. Names need not be unique; objects are.
   const QString mark = QString::number(reinterpret_cast<quintptr>(&control));
@@ -99,9 +110,17 @@ void WindowView::Present() {
   // On a small screen the title and the menus matter most.
   place.moveTop(std::max(place.top(), room.top()));
   move(place.topLeft());
+  if (window_.defaultButton != nullptr) WidgetFor(*window_.defaultButton)->setFocus();
   if (isVisible()) raise();
   show();
   activateWindow();
+}
+
+void WindowView::keyPressEvent(QKeyEvent* event) {
+  const int key = event->key();
+  const bool answer = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape;
+  if (answer && window_.defaultButton != nullptr) return window_.defaultButton->UserClicks();
+  QWidget::keyPressEvent(event);
 }
 
 void WindowView::closeEvent(QCloseEvent* event) {

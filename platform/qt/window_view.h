@@ -12,16 +12,19 @@ namespace qt {
 /// starts hidden. `window` and its controls must outlive every message that is handled.
 class WindowView : public QWidget {
  public:
-  explicit WindowView(::Window& window);
+  /// `owner` is the view of the window's owner, or null.
+  WindowView(::Window& window, WindowView* owner);
   ~WindowView() override;
   bool Shows(const ::Window& window) const { return &window == &window_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void Fill();
   QWidget* WidgetFor(Control& control);
+  void StayAbove(WindowView& owner);
   void Present();
 
   ::Window& window_;

@@ -291,8 +291,15 @@ TEST_F(EditorTest, HelpAboutAndQuit) {
   EXPECT_TRUE(shown);
   EXPECT_EQ(form.about.window.Caption(), "About Vorbilax Level Editor");
   EXPECT_EQ(form.about.lblVersion.Caption(), "Version 1.0.0");
-  c.mnu_Quit.UserClicks();
-  EXPECT_FALSE(form.IsRunning());
+  pump.onPump = [this](double) {
+    c.mnu_Quit.UserClicks();
+    EXPECT_FALSE(form.IsRunning());
+    // What was waiting behind it finds the devices, and no handler.
+    EXPECT_NE(DirectX::D3DDevice, nullptr);
+    c.mnu_block.UserClicks();
+    EXPECT_EQ(Document.BlockCount, 0);
+  };
+  EXPECT_TRUE(form.Form_Load());
   EXPECT_EQ(DirectX::D3DDevice, nullptr);
 }
 

@@ -1,10 +1,13 @@
 // The real boxes, looked at and then dismissed while they are open.
 #include <QComboBox>
 #include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeView>
 
 #include "tests/window_backend/fixture.h"
 
@@ -34,24 +37,59 @@ class Dialogs : public fixture::ShownWindow {
       QMetaObject::invokeMethod(&box, "accept");
     });
   }
+  /// What is said to a name.
+  QString Refusal(const QString& name) {
+    QString said;
+    Answer(name);
+    WhenOpen<QMessageBox>([&](QMessageBox& message) {
+      said = message.text();
+      WhenOpen<QFileDialog>([](QFileDialog& box) { box.reject(); });
+      message.accept();
+    });
+    EXPECT_EQ(dialogs::SaveFile(dialog_), std::nullopt);
+    return said;
+  }
 
   bool looked_ = false;
   QTemporaryDir folder_;
   dialogs::FileDialog dialog_{"Save File", "", "Vorbilax Levels *.lvl", "*.lvl", "bin"};
 };
 
-TEST_F(Dialogs, HandlerFailureIsShownInAMessageBox) {
+TEST_F(Dialogs, HandlerFailureIsShownOnceInAMessageBox) {
   WhenOpen<QMessageBox>([&](QMessageBox& box) {
     EXPECT_EQ(box.windowTitle(), "Vorbilax Level Editor");
     EXPECT_EQ(box.text(), "<b>text");
     EXPECT_EQ(box.textFormat(), Qt::PlainText);
     EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
     EXPECT_EQ(box.parentWidget(), top_);
+    dialogs::ShowMessage("<b>text");  // returns at once
     box.accept();
   });
   window_.onKeyDown = [](int16_t&, int) { throw std::out_of_range("<b>text"); };
   Type(Qt::Key_B);
   EXPECT_TRUE(looked_);
+}
+
+TEST_F(Dialogs, MessagesAreShownWhole) {
+  const std::string path = "/home/somebody/" + std::string(240, 'w') + ".lvl";
+  for (const std::string& text :
+       {std::string("You must pause the moving platforms before you can alter them"),
+        path + ": No such file or directory", path + ": /a b/" + path + ": damaged",
+        std::string(250, 'm'), std::string("short")}) {
+    WhenOpen<QMessageBox>([&](QMessageBox& box) {
+      const auto& label = *box.findChild<QLabel*>("qt_msgbox_label");
+      const int flags = Qt::AlignLeft | (label.wordWrap() ? Qt::TextWordWrap : 0);
+      const QRect room = label.contentsRect().adjusted(0, 0, 0, 5000);
+      const QRect needed = label.fontMetrics().boundingRect(room, flags, label.text());
+      EXPECT_LE(needed.width(), label.contentsRect().width()) << text;
+      EXPECT_LE(needed.height(), label.contentsRect().height()) << text;
+      EXPECT_LE(box.width(), 600) << text;
+      EXPECT_EQ(label.text().count('\n'), QString::fromStdString(text).count(": ")) << text;
+      EXPECT_EQ(label.accessibleName().toStdString(), text);
+      box.accept();
+    });
+    dialogs::ShowMessage(text);
+  }
 }
 
 TEST_F(Dialogs, SaveDialogIsSetUpAndCanBeCancelled) {
@@ -66,6 +104,9 @@ TEST_F(Dialogs, SaveDialogIsSetUpAndCanBeCancelled) {
     EXPECT_TRUE(name.text().isEmpty());
     EXPECT_EQ(name.maxLength(), 255);
     EXPECT_EQ(box.parentWidget(), top_);
+    const auto& view = *box.findChild<QTreeView*>("treeView");
+    EXPECT_TRUE(view.isColumnHidden(2)) << "the type";
+    EXPECT_EQ(view.header()->sectionResizeMode(3), QHeaderView::ResizeToContents);
     box.reject();
   });
   EXPECT_EQ(dialogs::SaveFile(dialog_), std::nullopt);
@@ -79,6 +120,10 @@ TEST_F(Dialogs, SaveReplacesAndOpenTakesAMissingFileWithoutAsking) {
   EXPECT_EQ(dialogs::SaveFile(dialog_), dialog_.folder + "/track.bin");
   Answer("old.lvl");
   EXPECT_EQ(dialogs::SaveFile(dialog_), dialog_.folder + "/old.lvl");
+  EXPECT_EQ(Refusal("a\"b"), "A file name cannot contain a quotation mark.");
+  EXPECT_EQ(Refusal(QString(125, QChar(0xFC)) + 'a'), "The file name is too long.");
+  Answer(QString(125, QChar(0xFC)));
+  EXPECT_TRUE(dialogs::SaveFile(dialog_)) << "254 bytes with the extension";
   dialog_.defaultExtension.clear();
   Answer("missing");
   EXPECT_EQ(dialogs::OpenFile(dialog_), dialog_.folder + "/missing");

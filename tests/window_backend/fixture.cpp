@@ -38,6 +38,7 @@ SampleWindow::SampleWindow() {
   putMenu(low, "mnu_low", "Low", "F12");
   file.items = {&open};
   gravity.items = {&normal, &low};
+  normal.checkable = low.checkable = true;
   normal.Checked(true);
   menus = {&file, &gravity};
 

@@ -95,6 +95,15 @@ TEST_F(Keys, ShortcutRunsOncePerPressEvenInATextBox) {
   EXPECT_EQ(pressed_, Seen({{123, 0}})) << "a disabled item leaves its key to the window";
 }
 
+TEST_F(Keys, ControlsGetNothingPressedWithAltNorTheWindowWithSuper) {
+  Find<QWidget>("button").setFocus();
+  Type(Qt::Key_Space, Qt::AltModifier);
+  EXPECT_EQ(pressed_, Seen({{32, 4}}));
+  Type(Qt::Key_Space, Qt::MetaModifier);
+  EXPECT_EQ(pressed_.size(), 1U);
+  EXPECT_EQ(clicks_, 0);
+}
+
 TEST(KeyCodes, ComeFromKeysAndPlaces) {
   const std::pair<int, int> codes[] = {
       {Qt::Key_A, 65},       {Qt::Key_Z, 90},         {Qt::Key_7, 55},

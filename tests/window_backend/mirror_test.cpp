@@ -35,6 +35,9 @@ TEST_F(Mirroring, CaptionsAndTexts) {
   Find<QPushButton>("button").setFocus();
   window_.SetFocus();
   EXPECT_TRUE(Find<QWidget>("client").hasFocus());
+  Find<QComboBox>("drop").setFocus();
+  window_.drop.Enabled(false);
+  EXPECT_TRUE(Find<QWidget>("client").hasFocus()) << "not the next control";
   EXPECT_EQ(Action("mnu_open").text(), "Copy && Keep");
   window_.open.Caption("Copy");
   EXPECT_EQ(Action("mnu_open").text(), "Copy");
@@ -99,6 +102,7 @@ TEST_F(Mirroring, ClicksReachTheControls) {
 }
 
 TEST_F(Mirroring, MenuCheckMarkMovesOnlyWhenTheProgramMovesIt) {
+  EXPECT_TRUE(Action("mnu_low").isCheckable()) << "it shows an empty box before it is checked";
   window_.low.onClick = window_.normal.onClick = count_;
   Action("mnu_low").trigger();
   Action("mnu_normal").trigger();
@@ -109,6 +113,7 @@ TEST_F(Mirroring, MenuCheckMarkMovesOnlyWhenTheProgramMovesIt) {
   window_.low.Checked(true);
   EXPECT_FALSE(Action("mnu_normal").isChecked());
   EXPECT_TRUE(Action("mnu_low").isChecked());
+  EXPECT_FALSE(Action("mnu_open").isCheckable());
 }
 
 TEST_F(Mirroring, UserCannotCloseTheWindowButTheProgramCan) {

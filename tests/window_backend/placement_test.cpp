@@ -28,6 +28,22 @@ TEST_F(Placement, EverythingIsAtItsPlaceInItsParent) {
   }
 }
 
+TEST_F(Placement, LabelsStandOnTheLineOfTheirNumbers) {
+  window_.label.Caption("11");
+  window_.box.Text("11");
+  const auto line = [this](const char* name) {
+    const QImage drawn = Find<QWidget>(name).grab().toImage();
+    for (int y = drawn.height() - 1; y >= 0; --y) {
+      for (int x = 0; x < drawn.width(); ++x) {
+        if (qGray(drawn.pixel(x, y)) < 128) return y;
+      }
+    }
+    return -1;
+  };
+  EXPECT_GT(line("label"), 8);
+  EXPECT_EQ(line("label"), line("box"));
+}
+
 TEST(Wordings, FitTheirLabels) {
   struct Wording {
     const char* text;

@@ -1,5 +1,6 @@
 // File lists, the presented picture and the message pump.
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -42,8 +43,14 @@ TEST_F(Windows, FileListsShowPicturesAndMirrorTheSelection) {
   EXPECT_EQ(window_.list.FileName(), "b.bmp");
   std::string painted;
   window_.list.onDoubleClick = [&] { painted = window_.list.FileName(); };
-  emit view.doubleClicked(view.model()->index(2, 0));
-  EXPECT_EQ(painted, "d.bmp");
+  const QPointF at = view.visualItemRect(view.item(2)).center();
+  for (const auto& [button, name] : {std::pair(Qt::RightButton, ""), {Qt::LeftButton, "d.bmp"}}) {
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+      QMouseEvent event(type, at, view.viewport()->mapToGlobal(at), button, button, {});
+      QApplication::sendEvent(view.viewport(), &event);
+    }
+    EXPECT_EQ(painted, name);
+  }
 }
 
 TEST_F(Windows, PresentedPictureAppearsInTheWindow) {
