@@ -128,5 +128,5 @@ void frmMain::Form_KeyDown(int16_t& KeyCode, int Shift) {
 
 void frmMain::Form_KeyUp(int16_t KeyCode) {
   KeyReleased_ = true;
-  if (KeyCode == kSpace) SpaceHeld_ = false;
+  if (KeyCode == kSpace || KeyCode == 0) SpaceHeld_ = false;
 }

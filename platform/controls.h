@@ -191,6 +191,7 @@ class Window : public Captioned {
   /// Key messages arrive here before the focused control. The code is a virtual-key code; a
   /// handler that changes it keeps the key from the control. shift: mask of 1 Shift, 2 Ctrl, 4 Alt.
   std::function<void(int16_t& keyCode, int shift)> onKeyDown;
+  /// Code 0: what was held counts as released, since another window has the keyboard.
   std::function<void(int16_t keyCode, int shift)> onKeyUp;
 
   std::function<void()> show, unload, takeFocus;

@@ -52,6 +52,7 @@ bool KeyPreview::eventFilter(QObject* receiver, QEvent* event) {
 void KeyPreview::NoteWindows(const QWidget& window, QEvent::Type type) {
   if (type == QEvent::WindowBlocked && &window == &top_) {
     for (const QWidget*& user : held_) user = nullptr;
+    window_.UserReleasesKey(0, 0);
   }
   if (type != QEvent::WindowActivate && type != QEvent::WindowUnblocked) return;
   // What was released while no window of the program had the keyboard was not told here.
