@@ -4,16 +4,21 @@
 #include <cmath>
 #include <system_error>
 
+#include "platform/error_text.h"
+
 namespace d3dx {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// The file's time; throws PlatformError when there is no such file.
+/// The file's time. Throws PlatformError when there is no such file or it is none: to open a pipe
+/// would wait for its writer.
 fs::file_time_type TimeOf(const std::string& path) {
   std::error_code failure;
   const auto time = fs::last_write_time(path, failure);
-  if (failure) throw PlatformError(path + ": " + failure.message());
+  const bool regular = !failure && fs::is_regular_file(path, failure);
+  if (failure) throw PlatformError(path + ": " + ErrorText(failure.value()));
+  if (!regular) throw PlatformError(path + ": not a file");
   return time;
 }
 
@@ -59,7 +64,6 @@ TexturePtr Library::CreateTextureFromFileEx(const std::string& path,
       begin, end, [&](const auto& entry) { return entry.second.settings == settings; });
   if (found != end && found->second.time == time) return found->second.texture;
 
-  if (!fs::is_regular_file(path)) throw PlatformError(path + ": not a file");
   Image image = decoder_(path);
   // The key is exact, so it is applied before anything mixes neighbouring pixels.
   if (settings.colourKey != 0) std::ranges::replace(image.pixels, settings.colourKey, 0U);

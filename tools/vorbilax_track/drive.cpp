@@ -2,8 +2,8 @@
 #include <cstring>
 
 #include "files/FileIO.h"
-#include "files/safe_writer.h"
 #include "platform/paths.h"
+#include "platform/whole_file.h"
 #include "play/clsPlayer.h"
 #include "render/clsShadow.h"
 #include "tools/vorbilax_track/commands.h"

@@ -5,9 +5,9 @@
 
 #include "files/level_bytes.h"
 #include "files/level_format.h"
-#include "files/safe_writer.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
+#include "platform/whole_file.h"
 #include "tools/vorbilax_track/commands.h"
 
 namespace track_tool {
