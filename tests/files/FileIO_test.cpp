@@ -1,8 +1,14 @@
 #include "files/FileIO.h"
 
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cfloat>
 #include <cmath>
 
+#include "files/file_calls.h"
 #include "files/level_bytes.h"
+#include "tests/files/failing_allocation.h"
 #include "tests/files/level_files.h"
 #include "tests/support/null_editor.h"
 
@@ -227,6 +233,59 @@ TEST_F(RefusedReadTest, CountsIndicesAndNumbers) {
   ExpectRefused(file, "Gravity");
 }
 
+// What is read can be computed with: the rest has a field and an offset.
+TEST_F(RefusedReadTest, MeasuresBeyondALong) {
+  const std::vector<std::string> fields = {"Xpos", "Ypos", "Zpos", "scaleX", "scaleY", "scaleZ"};
+  const float most = 2147483520, beyond = 2147483648.0F;
+  for (size_t i = 0; i <= fields.size(); ++i) {
+    for (const float value : {beyond, -FLT_MAX, FLT_MAX, most, -most}) {
+      std::vector<float> measures(6, most);
+      if (i < measures.size()) measures[i] = value;
+      File blocks = AllKinds(), platforms = AllKinds();
+      const size_t start = blocks.Bytes().find(blocks.blocks) + 4;
+      blocks.blocks.replace(4, 24, Singles(measures));
+      platforms.platforms.replace(4, 24, Singles(measures));
+      if (i == fields.size()) platforms.settings.replace(0, 4, Single(value / most * 4e8F));
+      const FileIO::Result block = Read(blocks.Bytes()), platform = Read(platforms.Bytes());
+      const std::string refused = std::abs(value) == most ? ""
+                                  : i < fields.size()     ? fields[i]
+                                                          : "Gravity";
+      EXPECT_EQ(platform.field, refused) << value;
+      if (i < fields.size()) {
+        EXPECT_EQ(block.field, refused) << value;
+        EXPECT_EQ(block.offset, refused.empty() ? 0 : start + 4 * i);
+      }
+      if (!refused.empty()) continue;
+      const std::string saved = Saved();
+      EXPECT_EQ(Converted(saved), saved);
+      for (int step = 0; step < 9; ++step) Document.Platforms[0].move();
+    }
+  }
+}
+
+TEST_F(RefusedReadTest, NoMemoryAtAnyMoment) {
+  File file;
+  file.background = Padded("bk001.jpg", 50);
+  for (int allocation = 0;; ++allocation) {
+    const std::string bytes = file.Bytes(), name = "t.lvl";
+    servedAllocations = allocation;
+    const FileIO::Result result = FileIO::ReadLevelBytes(bytes, name);
+    const bool allServed = servedAllocations >= 0;
+    servedAllocations = -1;
+    if (result.Ok()) {
+      EXPECT_EQ(Saved(), file.Bytes());
+      ASSERT_TRUE(Read(AllKinds().Bytes()).Ok());
+      Document.SelectedIndex = 1;
+    } else {
+      EXPECT_EQ(result.message, "t.lvl: Cannot allocate memory");
+      ExpectUnchanged();
+    }
+    if (!allServed) continue;
+    EXPECT_GT(allocation, 50);
+    break;
+  }
+}
+
 TEST_F(RefusedReadTest, DamagedTextureIsNamedAndMissingFilesToo) {
   WriteBytes(folder / "textures/B.bmp", "broken");
   File file = AllKinds();
@@ -284,6 +343,42 @@ TEST_F(SaveTest, ShorterTrackLeavesTheTail) {
   EXPECT_EQ(ReadBytes(target), File().Bytes() + longer.substr(213));
   ASSERT_TRUE(FileIO::ReadLevel(target).Ok());
   EXPECT_EQ(Saved(), File().Bytes());
+}
+
+TEST_F(SaveTest, NoMemoryAtAnyMomentLeavesTheFile) {
+  const std::string longer = AllKinds().Bytes(), path = target;
+  for (int allocation = 0;; ++allocation) {
+    WriteBytes(target, longer);
+    servedAllocations = allocation;
+    const FileIO::Result result = FileIO::WriteLevel(path);
+    const bool allServed = servedAllocations >= 0;
+    servedAllocations = -1;
+    EXPECT_EQ(result.Ok(), ReadBytes(target) != longer) << result.message;
+    const std::filesystem::directory_iterator files(folder / "levels");
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "nothing left over";
+    if (allServed) break;
+  }
+}
+
+TEST_F(SaveTest, AFolderThatCannotBeSyncedIsToldOnce) {
+  struct : FileCalls {
+    int Sync(int file) override {
+      struct stat status {};
+      fstat(file, &status);
+      errno = EIO;
+      return S_ISDIR(status.st_mode) ? -1 : 0;
+    }
+  } calls;
+  UseFileCalls(&calls);
+  std::filesystem::remove_all(folder / "levels");
+  boxes.answers = {folder / "t.lvl"};
+  for (int save = 0; save < 2; ++save) EXPECT_EQ(FileIO::SaveTrack(), FileIO::Outcome::Done);
+  UseFileCalls(nullptr);
+  EXPECT_EQ(Document.CurrentFileName, folder / "t.lvl");
+  EXPECT_EQ(boxes.messages, std::vector<std::string>{Document.CurrentFileName +
+                                                     ": saved, but a power cut might still undo it:"
+                                                     " Input/output error"});
+  EXPECT_EQ(boxes.shown[0].folder, folder / "") << "there is no folder of levels";
 }
 
 TEST_F(SaveTest, TrackWithoutBlocksIsRefused) {
