@@ -72,7 +72,7 @@ TexturePtr Library::CreateTextureFromFileEx(const std::string& path,
   if (width != image.width || height != image.height) image = Resample(image, width, height);
 
   CachedTexture fresh{settings, time,
-                      std::make_shared<TextureObject>(std::move(image), settings.format)};
+                      std::make_shared<TextureObject>(std::move(image), settings.format, path)};
   TexturePtr texture = fresh.texture;
   if (found != end) {
     found->second = std::move(fresh);
