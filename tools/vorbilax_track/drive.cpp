@@ -54,9 +54,7 @@ int DriveTrack(const std::string& file, const std::string& script, bool untilEnd
     const FileIO::Result result = FileIO::ReadLevel(file);
     if (!result.Ok()) return BadInput(result.message);
     LoadCar();
-    const int status = Run(runs, untilEnd);
-    if (std::fflush(stdout) != 0) return BadInput("the rows could not be written");
-    return status;
+    return Run(runs, untilEnd);
   } catch (const ScriptError& failure) {
     return BadInput(script + ": " + failure.what());
   } catch (const std::exception& failure) {
