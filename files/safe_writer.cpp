@@ -136,10 +136,10 @@ std::string FollowLinks(const std::string& path, std::string& reason) {
   return target.string();
 }
 
-std::string NotCreated(const fs::path& folder) {
-  const bool folderRefuses = errno == EACCES || errno == EPERM;
-  return folderRefuses ? "the folder " + folder.string() + " cannot be written to: " + Reason()
-                       : Reason();
+/// The user sees that the file may be written; it is the folder that refuses.
+std::string FolderReason(const fs::path& folder, const char* refused) {
+  const bool named = errno == EACCES || errno == EPERM;
+  return (named ? "the folder " + folder.string() + " cannot be " + refused + ": " : "") + Reason();
 }
 
 /// Writes the new file beside the old and puts it in its place.
@@ -153,7 +153,7 @@ std::string Replace(const std::string& target, const fs::path& folder, std::stri
   // A new file gets its rights at its making; in the place of another it starts with the least.
   TemporaryFile temporary((folder / TemporaryName()).string(),
                           old ? old->access.mode & 0600U : 0666);
-  if (!temporary.Opened()) return NotCreated(folder);
+  if (!temporary.Opened()) return FolderReason(folder, "written to");
   const int file = temporary.File();
   const bool complete = (!old || KeepAccess(file, old->access)) && WriteAll(file, bytes) &&
                         CopyTail(tail.File(), static_cast<off_t>(bytes.size()), file) &&
@@ -174,7 +174,7 @@ Written WriteFileSafely(const std::string& path, std::string_view bytes) {
   const fs::path parent = fs::path(target).parent_path();
   const fs::path folder = parent.empty() ? fs::path(".") : parent;
   const OpenedFile folderFile(CurrentFileCalls().OpenFolder(folder.c_str()));
-  if (!folderFile.Opened()) return {Reason(), {}};
+  if (!folderFile.Opened()) return {FolderReason(folder, "opened"), {}};
   RemoveStrayFiles(folder.string());
   const SizeSignalIgnored ignored;
   reason = Replace(target, folder, bytes, old);

@@ -1,12 +1,16 @@
 #include "platform/qt/images.h"
 
-#include <QCoreApplication>
+#include <QBuffer>
+#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
+#include <cerrno>
+#include <cstdio>
 #include <cstring>
 
 #include "platform/error.h"
+#include "platform/error_text.h"
 #include "platform/qt/picture_source.h"
 #include "platform/whole_file.h"
 
@@ -59,6 +63,15 @@ QImage Decode(std::string_view bytes, QByteArray& format) {
   return decoded;
 }
 
+/// The toolkit's own writing takes a full disk for an unknown error.
+void WriteFile(const std::string& path, const QByteArray& bytes) {
+  std::FILE* const file = std::fopen(path.c_str(), "wbe");
+  const auto size = static_cast<size_t>(bytes.size());
+  bool complete = file != nullptr && std::fwrite(bytes.constData(), 1, size, file) == size;
+  if (file != nullptr && std::fclose(file) != 0) complete = false;
+  if (!complete) throw PlatformError(path + ": " + ErrorText(errno));
+}
+
 }  // namespace
 
 Image LoadImageFile(const std::string& path) {
@@ -94,13 +107,15 @@ void SaveImageFile(const Image& image, const std::string& path) {
                 static_cast<size_t>(image.width) * sizeof(uint32_t));
   }
   const QString file = QString::fromStdString(path);
+  QBuffer bytes;
+  QImageWriter writer(&bytes, QFileInfo(file).suffix().toLatin1());
   // Both keep no alpha; without this the encoder would write a 32-bit BMP.
   if (!file.endsWith(".png")) encoded = encoded.convertToFormat(QImage::Format_RGB888);
-  QImageWriter writer(file);
   if (file.endsWith(".jpg")) writer.setQuality(92);
   if (!writer.write(encoded)) {
     throw PlatformError(path + ": " + writer.errorString().toStdString());
   }
+  WriteFile(path, bytes.data());
 }
 
 }  // namespace qt

@@ -130,6 +130,9 @@ TEST_F(PictureFile, WhatIsTooLongOrNoFileIsRefused) {
   ExpectRefused(Encoded(Image(qt::kGreatestSide + 1, 1), ".png"), "a wide picture");
   ExpectRefused(Encoded(Image(1, qt::kGreatestSide + 1), ".png"), "a high picture");
   std::filesystem::remove(path_);
+  std::filesystem::create_symlink("/dev/full", path_ + ".png");
+  EXPECT_THROW(qt::SaveImageFile(Image(1, 1), path_ + ".png"), PlatformError);
+  std::filesystem::remove(path_ + ".png");
   ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
   EXPECT_THROW(qt::LoadImageFile(path_), PlatformError);
   bool opened = false;
