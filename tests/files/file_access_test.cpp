@@ -25,43 +25,29 @@ struct RefusingCalls : FileCalls {
   int SetList(int, const std::string&) override { return listsWork ? 0 : -1; }
 };
 
-struct Person {
-  bool inOldGroup, inNewGroup;
-};
-
-/// What the person, who owns nothing, may do with a file of this group.
-mode_t RightsOf(const Person& person, bool oldGroup, mode_t mode) {
-  return (oldGroup ? person.inOldGroup : person.inNewGroup) ? mode >> 3 & 7U : mode & 7U;
-}
-
 TEST(FileAccess, NobodyGainsARightWhateverCannotBeKept) {
   const TemporaryFolder folder;
-  WriteBytes(folder / "t", "");
-  const int file = open((folder / "t").c_str(), O_RDWR);
+  const OpenedFile file(open((folder / "t").c_str(), O_RDWR | O_CREAT, 0600));
   RefusingCalls calls;
-  for (mode_t mode = 0; mode <= 07777; ++mode) {
-    for (const int kept : {0, 1, 2, 3}) {
-      calls.groupIsOurs = (kept & 1) != 0;
-      calls.listsWork = (kept & 2) != 0;
-      for (const char* list : {"", "list"}) {
-        ASSERT_TRUE(KeepAccess(file, {geteuid() + 1, getegid() + 1, mode, list}));
-        struct stat status {};
-        fstat(file, &status);
-        const mode_t now = status.st_mode & 07777U;
-        EXPECT_EQ(now & ~mode, 0U);
-        EXPECT_EQ(now & 0700U, mode & 0700U);
-        const bool listLost = !calls.listsWork || (*list != 0 && !calls.groupIsOurs);
-        EXPECT_TRUE(!listLost || (now & 07077U) == 0);
-        for (const Person person :
-             {Person{false, false}, {true, false}, {false, true}, {true, true}}) {
-          const mode_t before = RightsOf(person, true, mode);
-          EXPECT_EQ(RightsOf(person, calls.groupIsOurs, now) & ~before, 0U) << mode << " " << kept;
-        }
-        EXPECT_TRUE(!calls.groupIsOurs || listLost || now == (mode & 0777U));
-      }
+  for (unsigned item = 0; item < 8 << 12; ++item) {
+    const mode_t mode = item >> 3;
+    calls.groupIsOurs = (item & 1) != 0;
+    calls.listsWork = (item & 2) != 0;
+    const std::string list = (item & 4) != 0 ? "list" : "";
+    ASSERT_TRUE(KeepAccess(file.File(), {geteuid() + 1, getegid() + 1, mode, list}));
+    struct stat status {};
+    fstat(file.File(), &status);
+    const mode_t now = status.st_mode & 07777U;
+    const bool listKept = calls.listsWork && (list.empty() || calls.groupIsOurs);
+    EXPECT_EQ(now & 07700U, mode & 0700U);
+    EXPECT_TRUE(listKept || (now & 077U) == 0);
+    if (calls.groupIsOurs && listKept) {
+      EXPECT_EQ(now, mode & 0777U);
+    } else {
+      // Members of the old group are others now, members of the new one were others.
+      EXPECT_EQ((now | now >> 3) & 7U & ~(mode & mode >> 3), 0U) << std::oct << mode;
     }
   }
-  close(file);
 }
 
 /// An access list as the kernel stores it: everything for the owner, nothing for one user.
@@ -80,59 +66,45 @@ std::string ListAgainst(uint32_t user) {
   return list;
 }
 
-class SavedAccess : public testing::Test {
- protected:
-  void SetUp() override {
-    WriteBytes(target, "old");
-    const std::string list = ListAgainst(1003);
-    if (setxattr(target.c_str(), kAccessListName, list.data(), list.size(), 0) != 0) {
-      GTEST_SKIP() << "no access lists here";
-    }
-  }
-  struct stat Status() const {
+TEST(SavedFile, KeepsItsListAndItsGroupAndTakesNoListFromTheFolder) {
+  const TemporaryFolder folder;
+  const std::string target = folder / "t.lvl", list = ListAgainst(1003);
+  const auto access = [&target] {
     struct stat status {};
     stat(target.c_str(), &status);
-    return status;
-  }
-  std::string List() const { return AccessOf(target, Status()).list.value_or("unreadable"); }
-  TemporaryFolder folder;
-  std::string target = folder / "t.lvl";
-};
-
-TEST_F(SavedAccess, ListStaysAndTheFoldersDefaultDoesNotComeIn) {
-  EXPECT_EQ(WriteFileSafely(target, "new").failure, "");
-  EXPECT_EQ(List(), ListAgainst(1003));
-  removexattr(target.c_str(), kAccessListName);
+    return AccessOf(target, status);
+  };
+  WriteBytes(target, "old");
   chmod(target.c_str(), 0660);
-  const std::string list = ListAgainst(1004);
-  ASSERT_EQ(
-      setxattr(folder.Path().c_str(), "system.posix_acl_default", list.data(), list.size(), 0), 0);
+  if (setxattr(folder.Path().c_str(), "system.posix_acl_default", list.data(), list.size(), 0) !=
+      0) {
+    GTEST_SKIP() << "no access lists here";
+  }
+  EXPECT_EQ(WriteFileSafely(target, "new").failure, "");
+  EXPECT_EQ(access().list, "");
+  EXPECT_EQ(access().mode, 0660U);
+  setxattr(target.c_str(), kAccessListName, list.data(), list.size(), 0);
   EXPECT_EQ(WriteFileSafely(target, "newer").failure, "");
-  EXPECT_EQ(List(), "");
-  EXPECT_EQ(Status().st_mode & 0777U, 0660U);
-}
+  EXPECT_EQ(access().list, list);
 
-TEST_F(SavedAccess, AnotherMemberOfTheGroupKeepsGroupAndList) {
   if (geteuid() != 0) GTEST_SKIP() << "needs root to become somebody else";
   chmod(folder.Path().c_str(), 0777);
-  for (const gid_t savers : {2001U, 2002U}) {
+  for (const gid_t group : {2001U, 2002U}) {
     ASSERT_EQ(chown(target.c_str(), 1001, 2001), 0);
-    const std::string list = ListAgainst(1003);
-    setxattr(target.c_str(), kAccessListName, list.data(), list.size(), 0);
     ASSERT_EQ(WriteFileSafely(target, "by root").failure, "");
-    EXPECT_EQ(Status().st_uid, 1001U);
+    EXPECT_EQ(access().owner, 1001U);
     const pid_t saver = fork();
     if (saver == 0) {
-      const bool changed = setgroups(1, &savers) == 0 && setgid(3001) == 0 && setuid(1002) == 0;
-      _exit(changed && WriteFileSafely(target, "by a member").failure.empty() ? 0 : 1);
+      const bool changed = setgroups(1, &group) == 0 && setgid(3001) == 0 && setuid(1002) == 0;
+      _exit(changed && WriteFileSafely(target, "by another").failure.empty() ? 0 : 1);
     }
     int status = 0;
     waitpid(saver, &status, 0);
     EXPECT_EQ(status, 0);
-    const bool member = savers == 2001;
-    EXPECT_EQ(Status().st_gid, member ? 2001U : 3001U);
-    EXPECT_EQ(List(), member ? list : "");
-    EXPECT_EQ(Status().st_mode & 0777U, member ? 0666U : 0600U);
+    const bool member = group == 2001;
+    EXPECT_EQ(access().group, member ? 2001U : 3001U);
+    EXPECT_EQ(access().list, member ? list : "");
+    EXPECT_EQ(access().mode, member ? 0666U : 0600U);
   }
 }
 

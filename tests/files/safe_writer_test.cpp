@@ -18,13 +18,12 @@
 
 namespace {
 
-/// Fails the call with this number, counted from 1, or writes beyond so many bytes.
+/// Fails the call with this number, counted from 1.
 class FaultyCalls : public FileCalls {
  public:
   FaultyCalls() { UseFileCalls(this); }
   ~FaultyCalls() override { UseFileCalls(nullptr); }
   int failingCall = 0, error = EIO;
-  size_t diskSpace = SIZE_MAX;
   int calls = 0;
   std::string failed;
 
@@ -41,14 +40,7 @@ class FaultyCalls : public FileCalls {
     return Fails("list") ? -1 : FileCalls::SetList(file, list);
   }
   ssize_t Write(int file, const char* bytes, size_t count) override {
-    if (Fails("write")) return -1;
-    if (diskSpace == 0) {
-      errno = ENOSPC;
-      return -1;
-    }
-    const ssize_t written = FileCalls::Write(file, bytes, std::min(count, diskSpace));
-    if (diskSpace != SIZE_MAX) diskSpace -= static_cast<size_t>(written);
-    return written;
+    return Fails("write") ? -1 : FileCalls::Write(file, bytes, count);
   }
   int Sync(int file) override { return Fails("sync") ? -1 : FileCalls::Sync(file); }
   int Close(int file) override {
@@ -112,28 +104,20 @@ TEST_F(SafeWriterTest, AnyFailingCallLeavesOldOrNewWhole) {
   }
 }
 
-TEST_F(SafeWriterTest, FullDiskAtEveryByte) {
+TEST_F(SafeWriterTest, NoRoomAfterAnyByte) {
   const std::string fresh = "fresh content";
-  for (size_t space = 0; space <= fresh.size(); ++space) {
-    WriteBytes(target, "old");
-    FaultyCalls calls;
-    calls.diskSpace = space;
-    EXPECT_EQ(WriteFileSafely(target, fresh).failure.empty(), space == fresh.size());
-    EXPECT_EQ(ReadBytes(target), space == fresh.size() ? fresh : "old");
-    EXPECT_EQ(FilesInFolder(), 1U);
-  }
-}
-
-TEST_F(SafeWriterTest, ALimitForFilesIsLikeAFullDisk) {
-  WriteBytes(target, "old");
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit small{5, before.rlim_max};
-  setrlimit(RLIMIT_FSIZE, &small);
-  const Written written = WriteFileSafely(target, "too long");
-  setrlimit(RLIMIT_FSIZE, &before);
-  EXPECT_EQ(written.failure, "File too large");
-  EXPECT_EQ(ReadBytes(target), "old");
+  for (size_t room = 0; room <= fresh.size(); ++room) {
+    WriteBytes(target, "old");
+    const rlimit limit{room, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    const Written written = WriteFileSafely(target, fresh);
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(written.failure, room == fresh.size() ? "" : "File too large");
+    EXPECT_EQ(ReadBytes(target), room == fresh.size() ? fresh : "old");
+    EXPECT_EQ(FilesInFolder(), 1U);
+  }
 }
 
 TEST_F(SafeWriterTest, KeepsPermissionsTailsAndLinks) {
