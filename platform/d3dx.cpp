@@ -1,8 +1,11 @@
 #include "platform/d3dx.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
+#include <cerrno>
+#include <chrono>
 #include <cmath>
-#include <system_error>
 
 #include "platform/error_text.h"
 
@@ -12,14 +15,14 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The file's time. Throws PlatformError when there is no such file or it is none: to open a pipe
-/// would wait for its writer.
+/// would wait for its writer. One call: a track asks this for every face.
 fs::file_time_type TimeOf(const std::string& path) {
-  std::error_code failure;
-  const auto time = fs::last_write_time(path, failure);
-  const bool regular = !failure && fs::is_regular_file(path, failure);
-  if (failure) throw PlatformError(path + ": " + ErrorText(failure.value()));
-  if (!regular) throw PlatformError(path + ": not a file");
-  return time;
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) throw PlatformError(path + ": " + ErrorText(errno));
+  if (!S_ISREG(status.st_mode)) throw PlatformError(path + ": not a file");
+  using namespace std::chrono;
+  const nanoseconds time = seconds(status.st_mtim.tv_sec) + nanoseconds(status.st_mtim.tv_nsec);
+  return fs::file_time_type::clock::from_sys(sys_time<nanoseconds>(time));
 }
 
 uint32_t Mix(uint32_t a, uint32_t b, double t) {
