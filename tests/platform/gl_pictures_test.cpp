@@ -234,6 +234,7 @@ TEST_P(Pictures, ATextureBeyondTheDeviceIsToldOnceByNameAndDrawnWithout) {
     } catch (const PlatformError& failure) {
       EXPECT_EQ(frame, 0);
       EXPECT_TRUE(std::string(failure.what()).starts_with("great.bmp: ")) << failure.what();
+      EXPECT_EQ(screen.Present().At(1, 0), kGround) << "what could not be drawn is forgotten";
     }
   }
 }
