@@ -4,6 +4,7 @@
 
 #include "files/safe_writer.h"
 #include "platform/paths.h"
+#include "platform/whole_file.h"
 
 namespace {
 

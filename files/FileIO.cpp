@@ -1,11 +1,17 @@
 #include "files/FileIO.h"
 
+#include <cerrno>
+#include <new>
+#include <utility>
+
 #include "files/level_bytes.h"
 #include "files/safe_writer.h"
 #include "level/backdrop.h"
 #include "platform/dialogs.h"
 #include "platform/error.h"
+#include "platform/error_text.h"
 #include "platform/paths.h"
+#include "platform/whole_file.h"
 
 namespace FileIO {
 namespace {
@@ -13,11 +19,21 @@ namespace {
 constexpr const char* kDefaultExtension = "bin";
 
 dialogs::FileDialog TrackDialog(const char* title, const char* extension) {
-  return {title, paths::InInstallFolder("\\levels\\"), "Vorbilax Levels *.lvl", "*.lvl", extension};
+  const std::string levels = paths::InInstallFolder("\\levels\\");
+  const std::string folder = paths::IsFolder(levels) ? levels : paths::InInstallFolder("\\");
+  return {title, folder, "Vorbilax Levels *.lvl", "*.lvl", extension};
+}
+
+/// As a backdrop whose file is missing: the previous picture stays.
+void ShowBackdropIfPossible(const FixedText<50>& name) {
+  try {
+    ShowBackdrop(name.Trimmed());
+  } catch (const std::bad_alloc&) {
+  }
 }
 
 /// Places the built track; nothing here can fail.
-void Replace(const LevelFile& level, BuiltTrack&& track) {
+void Replace(LevelFile&& level, BuiltTrack&& track) {
   Document.BlockCount = static_cast<int32_t>(track.Blocks.size()) - 1;
   Document.RampCount = static_cast<int32_t>(track.Ramps.size()) - 1;
   Document.PlatformCount = static_cast<int32_t>(track.Platforms.size()) - 1;
@@ -27,12 +43,12 @@ void Replace(const LevelFile& level, BuiltTrack&& track) {
   Document.Platforms = std::move(track.Platforms);
   Document.Stars = std::move(track.Stars);
   if (level.TrackRecords) Document.TrackRecords = *level.TrackRecords;
-  Document.TrackSettings = level.TrackSettings;
+  Document.TrackSettings = std::move(level.TrackSettings);
   Document.Gravity = track.Gravity;
   Document.BackgroundName = level.BackgroundName;
-  Document.TextureNames = level.TextureNames;
-  Document.TextureCount = static_cast<int16_t>(level.TextureNames.size() - 1);
-  ShowBackdrop(level.BackgroundName.Trimmed());
+  Document.TextureNames = std::move(level.TextureNames);
+  Document.TextureCount = static_cast<int16_t>(Document.TextureNames.size() - 1);
+  ShowBackdropIfPossible(level.BackgroundName);
   Document.TrackLoaded = true;
   Document.PlatformsPaused = false;
   Document.SelectedIndex = 0;
@@ -41,34 +57,50 @@ void Replace(const LevelFile& level, BuiltTrack&& track) {
 }
 
 Result Failure(const std::string& path, const std::string& reason) {
-  return {path + ": " + reason, {}, 0};
+  return {path + ": " + reason, {}, 0, {}};
 }
 
 Outcome ReportOutcome(const Result& result) {
-  if (result.Ok()) return Outcome::Done;
-  dialogs::ShowMessage(result.message);
-  return Outcome::Failed;
+  static bool warned = false;
+  if (!result.Ok()) {
+    dialogs::ShowMessage(result.message);
+    return Outcome::Failed;
+  }
+  // A file system that cannot do better would warn at every save.
+  if (!result.warning.empty() && !std::exchange(warned, true)) {
+    dialogs::ShowMessage(result.warning);
+  }
+  return Outcome::Done;
 }
 
 }  // namespace
 
 Result LevelBytes(std::string& bytes) {
-  if (Document.BlockCount < 0) return {kNoBlocksText, {}, 0};
+  if (Document.BlockCount < 0) return {kNoBlocksText, {}, 0, {}};
   try {
     BuildTextureTable();
     for (auto& name : Document.TrackRecords.RecordNames) name = "No Record";
     bytes = SerializeLevel(DescribeDocument());
     return {};
   } catch (const std::overflow_error& failure) {
-    return {failure.what(), {}, 0};
+    return {failure.what(), {}, 0, {}};
+  } catch (const std::bad_alloc&) {
+    return {ErrorText(ENOMEM), {}, 0, {}};
   }
 }
 
 Result WriteLevel(const std::string& path) {
   std::string bytes;
   if (Result result = LevelBytes(bytes); !result.Ok()) return result;
-  const std::string reason = WriteFileSafely(path, bytes);
-  return reason.empty() ? Result{} : Failure(path, reason);
+  try {
+    const Written written = WriteFileSafely(path, bytes);
+    if (!written.failure.empty()) return Failure(path, written.failure);
+    Result result;
+    if (!written.warning.empty()) result.warning = path + ": " + written.warning;
+    return result;
+  } catch (const std::bad_alloc&) {
+    return Failure(path, ErrorText(ENOMEM));
+  }
 }
 
 Result ReadLevel(const std::string& path) {
@@ -79,16 +111,18 @@ Result ReadLevel(const std::string& path) {
 
 Result ReadLevelBytes(std::string_view bytes, const std::string& name) {
   try {
-    const LevelFile level = ParseLevel(bytes);
+    LevelFile level = ParseLevel(bytes);
     BuiltTrack track = BuildTrack(level);
     if (level.Version < kLevelFileVersion) dialogs::ShowMessage(kOldVersionText);
-    Replace(level, std::move(track));
+    Replace(std::move(level), std::move(track));
   } catch (const LevelFormatError& failure) {
-    return {name + ": " + failure.what(), failure.field(), failure.offset()};
+    return {name + ": " + failure.what(), failure.field(), failure.offset(), {}};
   } catch (const std::overflow_error&) {
     return Failure(name, "a position or size is out of range");
   } catch (const PlatformError& failure) {
     return Failure(name, failure.what());
+  } catch (const std::bad_alloc&) {
+    return Failure(name, ErrorText(ENOMEM));
   }
   if (TrackReplaced) TrackReplaced();
   return {};

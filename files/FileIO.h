@@ -16,6 +16,7 @@ struct Result {
   std::string message;  ///< why it failed, with the path; empty when it did not
   std::string field;    ///< the field of the file that could not be read, if it was one
   size_t offset = 0;    ///< and its byte offset
+  std::string warning;  ///< with the path: written, but what the writer warns of
   bool Ok() const { return message.empty(); }
 };
 
@@ -28,7 +29,7 @@ inline constexpr const char* kNoBlocksText = "A track needs at least one block."
 
 /// The document's bytes as a level file; sets the record names to "No Record" as every save does.
 Result LevelBytes(std::string& bytes);
-/// Writes the document; shows no message.
+/// Writes the document; shows no message. What was written with a warning is written.
 Result WriteLevel(const std::string& path);
 
 /// Replaces the document's track by the file's, all or nothing. Its one message is the notice for
@@ -37,7 +38,8 @@ Result ReadLevel(const std::string& path);
 /// The same from bytes in memory; `name` stands for the path in the result's message.
 Result ReadLevelBytes(std::string_view bytes, const std::string& name);
 
-/// How a file dialog and the command behind it ended; a failure has been shown to the user.
+/// How a file dialog and the command behind it ended; a failure has been shown to the user, and the
+/// first warning of the program's run.
 enum class Outcome { Cancelled, Done, Failed };
 
 /// Asks for a file and writes the track to it.

@@ -185,7 +185,7 @@ BuiltTrack BuildTrack(const LevelFile& level) {
   track.Ramps = builder.Build<clsRamp>(level.Ramps);
   track.Platforms = builder.Build<clsMovingPlatform>(level.Platforms);
   track.Stars = builder.Build<clsStar>(level.Stars);
-  track.Gravity = ToSingle(level.StoredGravity / 1000.0 * 2.5);
+  track.Gravity = GravityOf(level.StoredGravity);
   return track;
 }
 

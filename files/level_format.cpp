@@ -1,5 +1,7 @@
 #include "files/level_format.h"
 
+#include <cmath>
+
 #include "files/level_bytes.h"
 
 namespace {
@@ -28,15 +30,24 @@ int16_t ReadTextureIndex(LevelBytesReader& in, const char* field, size_t tableSi
   return index;
 }
 
-/// A block's depth is a whole number, a platform's is not.
-BlockRecord ReadBox(LevelBytesReader& in, size_t tableSize, bool wholeDepth) {
+/// A position or a size. Objects hold some of them as Longs, a copy takes its sizes as
+/// Longs; within that range nothing that drawing, picking and play compute leaves a Single: a plane
+/// is made of products of two lengths, a fall of sums.
+float ReadMeasure(LevelBytesReader& in, const char* field) { return in.SingleFor<int32_t>(field); }
+
+template <typename Record>
+void ReadPosition(LevelBytesReader& in, Record& record) {
+  record.Xpos = ReadMeasure(in, "Xpos");
+  record.Ypos = ReadMeasure(in, "Ypos");
+  record.Zpos = ReadMeasure(in, "Zpos");
+}
+
+BlockRecord ReadBlock(LevelBytesReader& in, size_t tableSize) {
   BlockRecord block;
-  block.Xpos = in.Single("Xpos");
-  block.Ypos = in.Single("Ypos");
-  block.Zpos = wholeDepth ? in.SingleFor<int32_t>("Zpos") : in.Single("Zpos");
-  block.scaleX = in.Single("scaleX");
-  block.scaleY = in.Single("scaleY");
-  block.scaleZ = in.Single("scaleZ");
+  ReadPosition(in, block);
+  block.scaleX = ReadMeasure(in, "scaleX");
+  block.scaleY = ReadMeasure(in, "scaleY");
+  block.scaleZ = ReadMeasure(in, "scaleZ");
   for (int16_t& texture : block.Textures) texture = ReadTextureIndex(in, "Texture", tableSize);
   block.ScaleTextureTop = in.Byte("ScaleTextureTop");
   block.ScaleTextureSide = in.Byte("ScaleTextureSide");
@@ -44,13 +55,9 @@ BlockRecord ReadBox(LevelBytesReader& in, size_t tableSize, bool wholeDepth) {
   return block;
 }
 
-BlockRecord ReadBlock(LevelBytesReader& in, size_t tableSize) {
-  return ReadBox(in, tableSize, true);
-}
-
 PlatformRecord ReadPlatform(LevelBytesReader& in, size_t tableSize) {
   PlatformRecord platform;
-  platform.Box = ReadBox(in, tableSize, false);
+  platform.Box = ReadBlock(in, tableSize);
   platform.Mspeed = in.Byte("Mspeed");
   platform.StartingDir = in.Byte("Mdir");
   platform.Mdist = in.Byte("Mdist");
@@ -60,9 +67,7 @@ PlatformRecord ReadPlatform(LevelBytesReader& in, size_t tableSize) {
 
 RampRecord ReadRamp(LevelBytesReader& in, size_t tableSize) {
   RampRecord ramp;
-  ramp.Xpos = in.SingleFor<int32_t>("Xpos");
-  ramp.Ypos = in.SingleFor<int32_t>("Ypos");
-  ramp.Zpos = in.SingleFor<int32_t>("Zpos");
+  ReadPosition(in, ramp);
   ramp.scaleX = in.SingleFor<int16_t>("scaleX");
   ramp.scaleY = in.SingleFor<int16_t>("scaleY");
   ramp.scaleZ = in.SingleFor<int16_t>("scaleZ");
@@ -72,8 +77,9 @@ RampRecord ReadRamp(LevelBytesReader& in, size_t tableSize) {
 }
 
 StarRecord ReadStar(LevelBytesReader& in, size_t) {
-  return {in.SingleFor<int32_t>("Xpos"), in.SingleFor<int32_t>("Ypos"),
-          in.SingleFor<int32_t>("Zpos")};
+  StarRecord star;
+  ReadPosition(in, star);
+  return star;
 }
 
 template <typename Record>
@@ -101,7 +107,11 @@ std::vector<std::string> ReadTextureNames(LevelBytesReader& in) {
 }
 
 void ReadTrackSettings(LevelBytesReader& in, LevelFile& level) {
+  const size_t offset = in.Offset();
   level.StoredGravity = in.Single("Gravity");
+  if (!(std::abs(GravityOf(level.StoredGravity)) <= kGreatestGravity)) {
+    in.Refuse("Gravity", "the number is out of range", offset);
+  }
   level.TrackSettings.SettingsText = text::FromAnsi(in.CountedText("SettingsText"));
   for (uint32_t& value : level.TrackSettings.SettingsValues) value = in.Bits32("SettingsValue");
 }
@@ -153,6 +163,8 @@ void WriteTrackRecords(LevelBytesWriter& out, const TrackRecordsRecord& records)
 }
 
 }  // namespace
+
+float GravityOf(float stored) { return static_cast<float>(stored / 1000.0 * 2.5); }
 
 LevelFile ParseLevel(std::string_view bytes) {
   LevelBytesReader in(bytes);

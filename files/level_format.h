@@ -47,7 +47,15 @@ struct LevelFile {
   TrackSettingsRecord TrackSettings;
 };
 
-/// Reads a level file of any version; bytes after its end are ignored. Throws LevelFormatError.
+/// The document's gravity for a stored one.
+float GravityOf(float stored);
+
+/// The strongest gravity that is read, either way: what falls for hours still has a height whose
+/// square is a Single.
+inline constexpr float kGreatestGravity = 1e6F;
+
+/// Reads a level file of any version; bytes after its end are ignored. Throws LevelFormatError,
+/// also for a position or size outside the range of a Long and a gravity beyond kGreatestGravity.
 LevelFile ParseLevel(std::string_view bytes);
 
 /// The bytes of version 4. Throws std::overflow_error when a text is too long for its length field.

@@ -1,59 +1,78 @@
 #include "files/safe_writer.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
+#include <csignal>
 #include <filesystem>
 #include <optional>
 #include <utility>
+#include <vector>
+
+#include "files/file_access.h"
+#include "files/file_calls.h"
+#include "files/stray_files.h"
+#include "platform/error_text.h"
+#include "platform/retry.h"
+#include "platform/whole_file.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-/// More than any track needs; a track file beyond it is somebody else's file.
-constexpr off_t kGreatestFile = off_t{1} << 30;
+constexpr size_t kPieceBytes = 1U << 16;
 
-std::string Reason() { return std::strerror(errno); }
+std::string Reason() { return ErrorText(errno); }
+
+/// A write beyond the size that the user allows files to have then fails instead of killing.
+class SizeSignalIgnored {
+ public:
+  SizeSignalIgnored() {
+    struct sigaction ignore {};
+    ignore.sa_handler = SIG_IGN;
+    sigaction(SIGXFSZ, &ignore, &before_);
+  }
+  SizeSignalIgnored(const SizeSignalIgnored&) = delete;
+  SizeSignalIgnored& operator=(const SizeSignalIgnored&) = delete;
+  ~SizeSignalIgnored() { sigaction(SIGXFSZ, &before_, nullptr); }
+
+ private:
+  struct sigaction before_ {};
+};
 
 /// Closes and removes what is left of an unfinished write.
 class TemporaryFile {
  public:
-  TemporaryFile(FileCalls& calls, std::string name)
-      : calls_(calls), name_(std::move(name)), file_(calls.OpenTemporary(name_.data())) {}
+  TemporaryFile(std::string name, mode_t mode)
+      : name_(std::move(name)), opened_(CurrentFileCalls().Create(name_.c_str(), mode)) {
+    unfinished_ = opened_.Opened();
+  }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
   ~TemporaryFile() {
-    if (opened_ && file_ >= 0) calls_.Close(file_);
-    if (opened_ && !renamed_) calls_.Remove(name_.c_str());
+    opened_.Close();
+    if (unfinished_) CurrentFileCalls().Remove(name_.c_str());
   }
 
-  bool Opened() const { return opened_; }
-  int File() const { return file_; }
-  bool Close() { return calls_.Close(std::exchange(file_, -1)) == 0; }
+  bool Opened() const { return opened_.Opened(); }
+  int File() const { return opened_.File(); }
+  bool Close() { return opened_.Close(); }
   bool RenameTo(const std::string& target) {
-    renamed_ = calls_.Rename(name_.c_str(), target.c_str()) == 0;
-    return renamed_;
+    unfinished_ = CurrentFileCalls().Rename(name_.c_str(), target.c_str()) != 0;
+    return !unfinished_;
   }
 
  private:
-  FileCalls& calls_;
   std::string name_;
-  int file_;
-  bool opened_ = file_ >= 0;
-  bool renamed_ = false;
+  OpenedFile opened_;
+  bool unfinished_ = false;
 };
 
-bool WriteAll(FileCalls& calls, int file, std::string_view bytes) {
+bool WriteAll(int file, std::string_view bytes) {
   while (!bytes.empty()) {
-    const ssize_t written = calls.Write(file, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
+    const ssize_t written = CurrentFileCalls().Write(file, bytes.data(), bytes.size());
     if (written <= 0) {
       if (written == 0) errno = ENOSPC;
       return false;
@@ -63,47 +82,43 @@ bool WriteAll(FileCalls& calls, int file, std::string_view bytes) {
   return true;
 }
 
-/// Some file systems cannot sync a folder; they say so with EINVAL.
-bool SyncFolder(FileCalls& calls, int folder) {
-  return calls.Sync(folder) == 0 || errno == EINVAL || errno == ENOTSUP;
+/// Copies what `from` holds from the offset on; −1 holds nothing.
+bool CopyTail(int from, off_t offset, int to) {
+  if (from < 0) return true;
+  std::vector<char> piece(kPieceBytes);
+  for (;;) {
+    const ssize_t got =
+        RetryInterrupted([&] { return pread(from, piece.data(), piece.size(), offset); });
+    if (got <= 0) return got == 0;
+    if (!WriteAll(to, {piece.data(), static_cast<size_t>(got)})) return false;
+    offset += got;
+  }
 }
 
-mode_t NewFileMode() {
-  const mode_t mask = umask(0);
-  umask(mask);
-  return 0666 & ~mask;
+/// Some file systems cannot sync a folder; they say so with EINVAL.
+bool SyncFolder(int folder) {
+  return CurrentFileCalls().Sync(folder) == 0 || errno == EINVAL || errno == ENOTSUP;
 }
 
 /// What stands at the target before the write.
 struct OldFile {
-  mode_t mode = 0;
-  uid_t owner = 0;
-  gid_t group = 0;
-  std::string tail;  ///< what lies beyond the new bytes
+  FileAccess access;
+  bool longer = false;  ///< than the new bytes
 };
 
-/// Reads what must survive of the old file; nothing when there is none. `reason` tells a refusal.
-std::optional<OldFile> ReadOldFile(const std::string& target, size_t newSize, std::string& reason) {
+/// What must survive of the old file; nothing when there is none. `reason` tells a refusal.
+std::optional<OldFile> LookAtOldFile(const std::string& target, size_t newSize,
+                                     std::string& reason) {
   struct stat status {};
   if (stat(target.c_str(), &status) != 0) {
     if (errno != ENOENT) reason = Reason();
     return std::nullopt;
   }
-  if (!S_ISREG(status.st_mode)) {
-    reason = S_ISDIR(status.st_mode) ? "it is a folder" : "it is not a regular file";
-    return std::nullopt;
-  }
-  if (access(target.c_str(), W_OK) != 0) {
-    reason = Reason();
-    return std::nullopt;
-  }
-  OldFile old{static_cast<mode_t>(status.st_mode & 07777), status.st_uid, status.st_gid, {}};
-  if (status.st_size > static_cast<off_t>(newSize)) {
-    std::string content;
-    reason = ReadWholeFile(target, content);
-    if (reason.empty()) old.tail = content.substr(std::min(newSize, content.size()));
-  }
-  return old;
+  reason = NoFileReason(status.st_mode);
+  if (reason.empty() && access(target.c_str(), W_OK) != 0) reason = Reason();
+  if (reason.empty() && status.st_size > kGreatestFile) reason = "it is too large";
+  if (!reason.empty()) return std::nullopt;
+  return OldFile{AccessOf(target, status), status.st_size > static_cast<off_t>(newSize)};
 }
 
 /// The file that a chain of symbolic links leads to, whether it exists or not.
@@ -113,7 +128,7 @@ std::string FollowLinks(const std::string& path, std::string& reason) {
   for (int links = 0; fs::is_symlink(fs::symlink_status(target, failure)); ++links) {
     const fs::path next = fs::read_symlink(target, failure);
     if (failure || links > 40) {
-      reason = std::strerror(ELOOP);
+      reason = ErrorText(ELOOP);
       return path;
     }
     target = next.is_absolute() ? next : target.parent_path() / next;
@@ -121,84 +136,49 @@ std::string FollowLinks(const std::string& path, std::string& reason) {
   return target.string();
 }
 
+/// The user sees that the file may be written; it is the folder that refuses.
+std::string FolderReason(const fs::path& folder, const char* refused) {
+  const bool named = errno == EACCES || errno == EPERM;
+  return (named ? "the folder " + folder.string() + " cannot be " + refused + ": " : "") + Reason();
+}
+
+/// Writes the new file beside the old and puts it in its place.
+std::string Replace(const std::string& target, const fs::path& folder, std::string_view bytes,
+                    const std::optional<OldFile>& old) {
+  const OpenedFile tail(old && old->longer ? RetryInterrupted([&] {
+    return open(target.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  })
+                                           : -1);
+  if (old && old->longer && !tail.Opened()) return Reason();
+  // A new file gets its rights at its making; in the place of another it starts with the least.
+  TemporaryFile temporary((folder / TemporaryName()).string(),
+                          old ? old->access.mode & 0600U : 0666);
+  if (!temporary.Opened()) return FolderReason(folder, "written to");
+  const int file = temporary.File();
+  const bool complete = (!old || KeepAccess(file, old->access)) && WriteAll(file, bytes) &&
+                        CopyTail(tail.File(), static_cast<off_t>(bytes.size()), file) &&
+                        CurrentFileCalls().Sync(file) == 0 && temporary.Close() &&
+                        temporary.RenameTo(target);
+  return complete ? std::string() : Reason();
+}
+
 }  // namespace
 
-int FileCalls::OpenFolder(const char* path) {
-  return open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-}
-int FileCalls::OpenTemporary(char* nameTemplate) { return mkostemp(nameTemplate, O_CLOEXEC); }
-int FileCalls::SetOwnerAndMode(int file, uid_t owner, gid_t group, mode_t mode) {
-  // Only root may give files away; the mode matters to everybody, and is set last because a
-  // change of owner clears bits of it.
-  const bool sameOwner = owner == geteuid() && group == getegid();
-  if (!sameOwner && fchown(file, owner, group) != 0 && errno != EPERM) return -1;
-  return fchmod(file, mode);
-}
-ssize_t FileCalls::Write(int file, const char* bytes, size_t count) {
-  return write(file, bytes, count);
-}
-int FileCalls::Sync(int file) { return fsync(file); }
-int FileCalls::Close(int file) { return close(file); }
-int FileCalls::Rename(const char* from, const char* to) { return rename(from, to); }
-int FileCalls::Remove(const char* path) { return unlink(path); }
-
-std::string WriteFileSafely(const std::string& path, std::string_view bytes, FileCalls& calls) {
+Written WriteFileSafely(const std::string& path, std::string_view bytes) {
   std::string reason;
   const std::string target = FollowLinks(path, reason);
-  if (!reason.empty()) return reason;
-  const std::optional<OldFile> old = ReadOldFile(target, bytes.size(), reason);
-  if (!reason.empty()) return reason;
+  if (!reason.empty()) return {reason, {}};
+  const std::optional<OldFile> old = LookAtOldFile(target, bytes.size(), reason);
+  if (!reason.empty()) return {reason, {}};
 
   const fs::path parent = fs::path(target).parent_path();
   const fs::path folder = parent.empty() ? fs::path(".") : parent;
-  const int folderFile = calls.OpenFolder(folder.c_str());
-  if (folderFile < 0) return Reason();
-  const auto finish = [&](std::string result) {
-    calls.Close(folderFile);
-    return result;
-  };
-
-  TemporaryFile temporary(calls, (folder / ".vorbilax-XXXXXX").string());
-  if (!temporary.Opened()) return finish(Reason());
-  const int file = temporary.File();
-  const bool complete =
-      calls.SetOwnerAndMode(file, old ? old->owner : geteuid(), old ? old->group : getegid(),
-                            old ? old->mode : NewFileMode()) == 0 &&
-      WriteAll(calls, file, bytes) && WriteAll(calls, file, old ? old->tail : "") &&
-      calls.Sync(file) == 0 && temporary.Close() && temporary.RenameTo(target) &&
-      SyncFolder(calls, folderFile);
-  return finish(complete ? std::string() : Reason());
-}
-
-std::string WriteFileSafely(const std::string& path, std::string_view bytes) {
-  FileCalls calls;
-  return WriteFileSafely(path, bytes, calls);
-}
-
-std::string ReadWholeFile(const std::string& path, std::string& bytes) {
-  bytes.clear();
-  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-  if (file < 0) return Reason();
-  std::string reason;
-  struct stat status {};
-  if (fstat(file, &status) != 0) {
-    reason = Reason();
-  } else if (!S_ISREG(status.st_mode)) {
-    reason = S_ISDIR(status.st_mode) ? "it is a folder" : "it is not a regular file";
-  } else if (status.st_size > kGreatestFile) {
-    reason = "it is too large";
-  } else {
-    bytes.resize(static_cast<size_t>(status.st_size));
-    size_t filled = 0;
-    while (filled < bytes.size()) {
-      const ssize_t got = read(file, bytes.data() + filled, bytes.size() - filled);
-      if (got < 0 && errno == EINTR) continue;
-      if (got < 0) reason = Reason();
-      if (got <= 0) break;
-      filled += static_cast<size_t>(got);
-    }
-    bytes.resize(filled);
-  }
-  close(file);
-  return reason;
+  const OpenedFile folderFile(CurrentFileCalls().OpenFolder(folder.c_str()));
+  if (!folderFile.Opened()) return {FolderReason(folder, "opened"), {}};
+  RemoveStrayFiles(folder.string());
+  const SizeSignalIgnored ignored;
+  reason = Replace(target, folder, bytes, old);
+  if (!reason.empty()) return {reason, {}};
+  if (SyncFolder(folderFile.File())) return {};
+  return {{}, "saved, but a power cut might still undo it: " + Reason()};
 }

@@ -1,20 +1,28 @@
 #include "platform/d3dx.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
+#include <cerrno>
+#include <chrono>
 #include <cmath>
-#include <system_error>
+
+#include "platform/error_text.h"
 
 namespace d3dx {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// The file's time; throws PlatformError when there is no such file.
+/// The file's time. Throws PlatformError when there is no such file or it is none: to open a pipe
+/// would wait for its writer. One call: a track asks this for every face.
 fs::file_time_type TimeOf(const std::string& path) {
-  std::error_code failure;
-  const auto time = fs::last_write_time(path, failure);
-  if (failure) throw PlatformError(path + ": " + failure.message());
-  return time;
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) throw PlatformError(path + ": " + ErrorText(errno));
+  if (!S_ISREG(status.st_mode)) throw PlatformError(path + ": not a file");
+  using namespace std::chrono;
+  const nanoseconds time = seconds(status.st_mtim.tv_sec) + nanoseconds(status.st_mtim.tv_nsec);
+  return fs::file_time_type::clock::from_sys(sys_time<nanoseconds>(time));
 }
 
 uint32_t Mix(uint32_t a, uint32_t b, double t) {
@@ -59,7 +67,6 @@ TexturePtr Library::CreateTextureFromFileEx(const std::string& path,
       begin, end, [&](const auto& entry) { return entry.second.settings == settings; });
   if (found != end && found->second.time == time) return found->second.texture;
 
-  if (!fs::is_regular_file(path)) throw PlatformError(path + ": not a file");
   Image image = decoder_(path);
   // The key is exact, so it is applied before anything mixes neighbouring pixels.
   if (settings.colourKey != 0) std::ranges::replace(image.pixels, settings.colourKey, 0U);
@@ -68,7 +75,7 @@ TexturePtr Library::CreateTextureFromFileEx(const std::string& path,
   if (width != image.width || height != image.height) image = Resample(image, width, height);
 
   CachedTexture fresh{settings, time,
-                      std::make_shared<TextureObject>(std::move(image), settings.format)};
+                      std::make_shared<TextureObject>(std::move(image), settings.format, path)};
   TexturePtr texture = fresh.texture;
   if (found != end) {
     found->second = std::move(fresh);

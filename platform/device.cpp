@@ -66,7 +66,12 @@ void Device::EndScene() {
 }
 
 void Device::Present() {
-  if (executor_) executor_->Execute(frame_);
+  try {
+    if (executor_) executor_->Execute(frame_);
+  } catch (...) {
+    StartFrame();  // the next frame must not begin with what this one could not draw
+    throw;
+  }
   StartFrame();
 }
 

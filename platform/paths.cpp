@@ -1,5 +1,8 @@
 #include "platform/paths.h"
 
+#include <dirent.h>
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
@@ -24,6 +27,14 @@ bool ListOrder(const std::string& a, const std::string& b) {
   return a < b;
 }
 
+/// Whether the entry is a regular file or a link to one.
+bool IsFile(int folder, const dirent& entry) {
+  if (entry.d_type == DT_REG) return true;
+  struct stat status {};
+  return (entry.d_type == DT_LNK || entry.d_type == DT_UNKNOWN) &&
+         fstatat(folder, entry.d_name, &status, 0) == 0 && S_ISREG(status.st_mode);
+}
+
 }  // namespace
 
 const std::string& InstallFolder() { return Folder(); }
@@ -40,14 +51,25 @@ std::string InInstallFolder(std::string_view literal) {
   return Folder() + path;
 }
 
-std::vector<std::string> FileNames(const std::string& folder) {
-  std::vector<std::string> names;
+bool IsFolder(const std::string& path) {
   std::error_code failure;
-  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end;
-       entry.increment(failure)) {
-    std::error_code unreadable;
-    if (entry->is_regular_file(unreadable)) names.push_back(entry->path().filename().string());
+  return fs::is_directory(path, failure);
+}
+
+std::vector<std::string> EntryNames(const std::string& folder, bool onlyFiles) {
+  std::vector<std::string> names;
+  // The standard library's iterator ends the program when there is no memory for it.
+  const std::unique_ptr<DIR, void (*)(DIR*)> entries(opendir(folder.c_str()),
+                                                     [](DIR* opened) { closedir(opened); });
+  if (!entries) return names;
+  while (const dirent* const entry = readdir(entries.get())) {
+    if (!onlyFiles || IsFile(dirfd(entries.get()), *entry)) names.emplace_back(entry->d_name);
   }
+  return names;
+}
+
+std::vector<std::string> FileNames(const std::string& folder) {
+  std::vector<std::string> names = EntryNames(folder, true);
   std::ranges::sort(names, ListOrder);
   return names;
 }

@@ -18,6 +18,13 @@ std::string ProgramFolder();
 /// native separators.
 std::string InInstallFolder(std::string_view literal);
 
+/// Whether a folder stands at `path`.
+bool IsFolder(const std::string& path);
+
+/// Names of what lies in `folder`, in no order; without what is no regular file if so wanted. Empty
+/// when the folder cannot be read.
+std::vector<std::string> EntryNames(const std::string& folder, bool onlyFiles);
+
 /// Names of the regular files in `folder`, in the order in which file lists show them: letter case
 /// ignored. Empty when the folder cannot be read.
 std::vector<std::string> FileNames(const std::string& folder);

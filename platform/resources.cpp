@@ -42,7 +42,8 @@ Image Halve(const Image& image) {
 
 }  // namespace
 
-TextureObject::TextureObject(Image image, Format format) : format_(format), id_(NextId()) {
+TextureObject::TextureObject(Image image, Format format, std::string name)
+    : format_(format), name_(std::move(name)), id_(NextId()) {
   levels_.push_back(std::move(image));
   while (levels_.back().width > 1 || levels_.back().height > 1) {
     levels_.push_back(Halve(levels_.back()));

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -29,19 +30,22 @@ class TextureObject : public FrameMark, public std::enable_shared_from_this<Text
  public:
   enum class Format : uint8_t { Colour32, Colour16Alpha1 };
 
-  TextureObject(Image image, Format format);
+  /// `name` tells messages which picture it is.
+  TextureObject(Image image, Format format, std::string name = {});
 
   const Image& Level(size_t level) const { return levels_.at(level); }
   size_t LevelCount() const { return levels_.size(); }
   int Width() const { return levels_[0].width; }
   int Height() const { return levels_[0].height; }
   Format PixelFormat() const { return format_; }
+  const std::string& Name() const { return name_; }
   /// Distinct for every texture made in this process; names it in an executor's own store.
   uint64_t Id() const { return id_; }
 
  private:
   std::vector<Image> levels_;
   Format format_;
+  std::string name_;
   uint64_t id_;
 };
 using TexturePtr = std::shared_ptr<const TextureObject>;

@@ -36,21 +36,25 @@ void PlainExecutor::Execute(const CommandList& frame) {
 
 void PlainExecutor::Draw(const Command& draw, const Matrix4& world) {
   pipeline_.Prepare(ModeOf(draw));
-  if (draw.texture != nullptr) Bind(*draw.texture);
+  const bool textured = draw.texture != nullptr && Bind(*draw.texture);
   vertices_.resize(draw.vertexCount);
-  PlaceVertices(draw, world, draw.texture != nullptr ? 0 : -1, vertices_.data());
+  PlaceVertices(draw, world, textured ? 0 : -1, vertices_.data());
   stream_.Draw(ModeName(draw.primitive), vertices_);
 }
 
-void PlainExecutor::Bind(const TextureObject& texture) {
+bool PlainExecutor::Bind(const TextureObject& texture) {
+  if (refused_.Contains(texture)) return false;
   const auto [item, isNew] = textures_.try_emplace(texture.Id());
   StoredTexture& stored = item->second;
   stored.lastFrame = frame_;
   glBindTexture(GL_TEXTURE_2D_ARRAY, stored.name.Name());
-  if (!isNew) return;
+  if (!isNew) return true;
   // One layer each: drivers round differently for other kinds of texture.
-  AllocateLayers(texture.Width(), texture.Height(), 1);
-  UploadLayer(texture.Level(0), 0);
+  refused_.Try(texture, [&texture] {
+    AllocateLayers(texture.Width(), texture.Height(), 1);
+    UploadLayer(texture.Level(0), 0);
+  });
+  return true;
 }
 
 }  // namespace gl

@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 #include "platform/gl/pipeline.h"
+#include "platform/gl/refused_textures.h"
 #include "platform/gl/vertex_stream.h"
 
 namespace gl {
@@ -22,11 +23,13 @@ class PlainExecutor : public PictureExecutor {
     uint64_t lastFrame = 0;
   };
   void Draw(const Command& draw, const Matrix4& world);
-  void Bind(const TextureObject& texture);
+  /// Whether there is anything to draw with.
+  bool Bind(const TextureObject& texture);
 
   Pipeline pipeline_;
   VertexStream stream_;
   std::unordered_map<uint64_t, StoredTexture> textures_;  // by TextureObject::Id
+  RefusedTextures refused_;
   std::vector<StreamVertex> vertices_;
   uint64_t frame_ = 0;
 };

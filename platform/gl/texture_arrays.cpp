@@ -7,16 +7,26 @@
 namespace gl {
 namespace {
 
-constexpr int kFirstLayers = 8;
+constexpr int kFirstLayers = 8, kMostLayers = 256;
+constexpr int64_t kFirstBytes = int64_t{16} << 20, kMostBytes = int64_t{256} << 20;
 constexpr uint64_t kFramesBetweenSweeps = 64;
 
-int MostLayers() {
+int DeviceLayers() {
   GLint most = 0;
   glGetIntegerv(GL_MAX_ARRAY_TEXTURE_LAYERS, &most);
-  return std::min(most, 256);
+  return most;
 }
 
 }  // namespace
+
+LayerCounts LayersFor(int width, int height, int deviceMost) {
+  const int64_t bytes = std::max<int64_t>(1, int64_t{4} * width * height);
+  const auto within = [bytes](int64_t budget, int most) {
+    return static_cast<int>(std::clamp<int64_t>(budget / bytes, 1, most));
+  };
+  return {within(kFirstBytes, std::min(deviceMost, kFirstLayers)),
+          within(kMostBytes, std::min(deviceMost, kMostLayers))};
+}
 
 void TextureArrays::BeginFrame() {
   outgrown_.clear();
@@ -35,19 +45,20 @@ void TextureArrays::BeginFrame() {
 }
 
 TextureArrays::Place TextureArrays::Find(const TextureObject& texture) {
-  const auto found = entries_.find(texture.Id());
-  Entry& entry = found != entries_.end() ? found->second : Upload(texture);
+  if (refused_.Contains(texture)) return {};
+  if (!entries_.contains(texture.Id())) refused_.Try(texture, [&] { Upload(texture); });
+  Entry& entry = entries_.at(texture.Id());
   entry.lastFrame = frame_;
   return {entry.page->name.Name(), entry.layer};
 }
 
-TextureArrays::Entry& TextureArrays::Upload(const TextureObject& texture) {
+void TextureArrays::Upload(const TextureObject& texture) {
   Page& page = PageWithRoom({texture.Width(), texture.Height()});
   const int32_t layer = page.freeLayers.back();
-  page.freeLayers.pop_back();
   glBindTexture(GL_TEXTURE_2D_ARRAY, page.name.Name());
   UploadLayer(texture.Level(0), layer);
-  return entries_[texture.Id()] = {&page, layer, frame_};
+  page.freeLayers.pop_back();
+  entries_[texture.Id()] = {&page, layer, frame_};
 }
 
 TextureArrays::Page& TextureArrays::PageWithRoom(const Size& size) {
@@ -55,7 +66,8 @@ TextureArrays::Page& TextureArrays::PageWithRoom(const Size& size) {
   for (const auto& page : pages) {
     if (!page->freeLayers.empty()) return *page;
   }
-  if (pages.empty() || 2 * pages.back()->layers > MostLayers()) {
+  const LayerCounts counts = LayersFor(size.first, size.second, DeviceLayers());
+  if (pages.empty() || 2 * pages.back()->layers > counts.most) {
     pages.push_back(std::make_unique<Page>());
   }
   // A page grows by starting anew: its textures come back as they are drawn with.
@@ -64,11 +76,16 @@ TextureArrays::Page& TextureArrays::PageWithRoom(const Size& size) {
     Forget(page);
     outgrown_.push_back(std::exchange(page.name, TextureName()));
   }
-  page.layers = page.layers > 0 ? 2 * page.layers : std::min(kFirstLayers, MostLayers());
+  page.layers = page.layers > 0 ? 2 * page.layers : counts.first;
   page.freeLayers.resize(static_cast<size_t>(page.layers));
   std::iota(page.freeLayers.rbegin(), page.freeLayers.rend(), 0);
   glBindTexture(GL_TEXTURE_2D_ARRAY, page.name.Name());
-  AllocateLayers(size.first, size.second, page.layers);
+  try {
+    AllocateLayers(size.first, size.second, page.layers);
+  } catch (...) {
+    pages.pop_back();
+    throw;
+  }
   return page;
 }
 

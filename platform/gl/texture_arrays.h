@@ -6,9 +6,17 @@
 #include <vector>
 
 #include "platform/gl/objects.h"
+#include "platform/gl/refused_textures.h"
 #include "platform/resources.h"
 
 namespace gl {
+
+/// Layers of an array for pictures of this size: at first, and at most on a device that allows
+/// `deviceMost`. Great pictures come in small numbers.
+struct LayerCounts {
+  int first = 1, most = 1;
+};
+LayerCounts LayersFor(int width, int height, int deviceMost);
 
 /// Layers for the textures that frames draw with. Both pixel formats share arrays: their pictures
 /// differ, their storage does not.
@@ -22,7 +30,8 @@ class TextureArrays {
 
   /// Starts a frame: gives up what was not used for long.
   void BeginFrame();
-  /// Uploads the texture when it is new. May bind GL_TEXTURE_2D_ARRAY on unit 0.
+  /// Uploads the texture when it is new. May bind GL_TEXTURE_2D_ARRAY on unit 0. Throws
+  /// PlatformError, once, for a texture that OpenGL refuses; its place is none.
   Place Find(const TextureObject& texture);
 
   size_t TextureCount() const { return entries_.size(); }
@@ -40,13 +49,14 @@ class TextureArrays {
   };
   using Size = std::pair<int, int>;
 
-  Entry& Upload(const TextureObject& texture);
+  void Upload(const TextureObject& texture);
   Page& PageWithRoom(const Size& size);
   void Forget(const Page& page);
 
   std::unordered_map<uint64_t, Entry> entries_;  // by TextureObject::Id
   std::map<Size, std::vector<std::unique_ptr<Page>>> pages_;
   std::vector<TextureName> outgrown_;  // draws of this frame may still need them
+  RefusedTextures refused_;
   uint64_t frame_ = 0;
 };
 

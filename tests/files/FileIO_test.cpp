@@ -1,8 +1,15 @@
 #include "files/FileIO.h"
 
-#include <cmath>
+#include <sys/stat.h>
 
+#include <cerrno>
+#include <cfloat>
+#include <cmath>
+#include <utility>
+
+#include "files/file_calls.h"
 #include "files/level_bytes.h"
+#include "tests/files/failing_allocation.h"
 #include "tests/files/level_files.h"
 #include "tests/support/null_editor.h"
 
@@ -202,29 +209,75 @@ class RefusedReadTest : public FileIOTest {
 };
 
 TEST_F(RefusedReadTest, CountsIndicesAndNumbers) {
-  File file;
-  file.blocks = Long(-1);
-  ExpectRefused(file, "BlockCount");
-  file.blocks = Long(32768) + std::string(32769 * 35, '\0');
-  ExpectRefused(file, "BlockCount");
-  file = File();
-  file.stars = Long(-2);
-  ExpectRefused(file, "StarCount");
-  file.stars = Long(0x7FFFFFFF);
-  ExpectRefused(file, "StarCount");
-  file = File();
-  file.blocks = Long(0) + Singles({0, 0, 0, 2, 1, 2}) + Integer(1) + std::string(9, '\0');
-  ExpectRefused(file, "Texture");
-  file.blocks = Long(0) + Singles({0, NAN, 0, 2, 1, 2}) + std::string(11, '\0');
-  ExpectRefused(file, "Ypos");
-  file.blocks = Long(0) + Singles({0, 0, 3e9F, 2, 1, 2}) + std::string(11, '\0');
-  ExpectRefused(file, "Zpos");
-  file = File();
-  file.ramps = Long(0) + Singles({0, 0, 0, 40000, 1, 1}) + std::string(5, '\0');
-  ExpectRefused(file, "scaleX");
-  file = File();
-  file.settings = Single(INFINITY) + Counted("") + std::string(16, '\0');
-  ExpectRefused(file, "Gravity");
+  const auto block = [](const std::vector<float>& measures, int texture) {
+    return Long(0) + Singles(measures) + Integer(texture) + std::string(9, '\0');
+  };
+  const std::vector<std::tuple<std::string File::*, std::string, std::string>> cases = {
+      {&File::blocks, Long(-1), "BlockCount"},
+      {&File::blocks, Long(32768) + std::string(32769 * 35, '\0'), "BlockCount"},
+      {&File::stars, Long(-2), "StarCount"},
+      {&File::stars, Long(0x7FFFFFFF), "StarCount"},
+      {&File::blocks, block({0, 0, 0, 2, 1, 2}, 1), "Texture"},
+      {&File::blocks, block({0, NAN, 0, 2, 1, 2}, 0), "Ypos"},
+      {&File::ramps, block({0, 0, 0, 40000, 1, 1}, 0), "scaleX"},
+      {&File::settings, Single(INFINITY) + Counted("") + std::string(16, '\0'), "Gravity"}};
+  for (const auto& [part, bytes, field] : cases) {
+    File file;
+    file.*part = bytes;
+    ExpectRefused(file, field);
+  }
+}
+
+// What is read can be computed with: the rest has a field and an offset.
+TEST_F(RefusedReadTest, MeasuresBeyondALong) {
+  const std::vector<std::string> fields = {"Xpos",   "Ypos",   "Zpos",   "scaleX",
+                                           "scaleY", "scaleZ", "Gravity"};
+  const float most = 2147483520;
+  for (size_t i = 0; i < fields.size(); ++i) {
+    for (const float value : {2147483648.0F, -FLT_MAX, FLT_MAX, most, -most}) {
+      std::vector<float> measures(7, most);
+      measures[6] = 4e8F;
+      measures[i] = i < 6 ? value : value / most * 4e8F;
+      for (auto part : {&File::blocks, &File::platforms}) {
+        File file = AllKinds();
+        const size_t start = file.Bytes().find(file.*part) + 4;
+        file.settings.replace(0, 4, Single(measures[6]));
+        (file.*part).replace(4, 24, Singles(measures).substr(0, 24));
+        const FileIO::Result result = Read(file.Bytes());
+        EXPECT_EQ(result.field, std::abs(value) == most ? "" : fields[i]) << value;
+        EXPECT_TRUE(result.Ok() || i == 6 || result.offset == start + 4 * i);
+        if (!result.Ok()) continue;
+        const std::string saved = Saved();
+        EXPECT_EQ(Converted(saved), saved);
+        for (int step = 0; step < 9; ++step) Document.Platforms[0].move();
+      }
+    }
+  }
+}
+
+TEST_F(RefusedReadTest, NoMemoryAtAnyMoment) {
+  File file = AllKinds();
+  file.names = Counted("_default.bmp") + Counted("Blue With Yellow Dot.bmp");
+  const std::string longer = file.Bytes(), fresh = File().Bytes(), name = "t.lvl";
+  const std::string target = folder / "levels/t.lvl";
+  WriteBytes(target, longer);
+  ASSERT_TRUE(Read(fresh).Ok());
+  bool allServed = false;
+  for (int allocation = 0; !allServed; ++allocation) {
+    servedAllocations = allocation;
+    const FileIO::Result read = FileIO::ReadLevelBytes(longer, name);
+    allServed = std::exchange(servedAllocations, -1) >= 0;
+    EXPECT_TRUE(read.Ok() || read.message == "t.lvl: Cannot allocate memory") << read.message;
+    EXPECT_EQ(Saved(), read.Ok() ? longer : fresh);
+    ASSERT_TRUE(Read(fresh).Ok());
+    servedAllocations = allocation;
+    const FileIO::Result written = FileIO::WriteLevel(target);
+    allServed = std::exchange(servedAllocations, -1) >= 0 && allServed;
+    EXPECT_EQ(ReadBytes(target), written.Ok() ? fresh + longer.substr(fresh.size()) : longer);
+    const std::filesystem::directory_iterator files(folder / "levels");
+    EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "nothing left over";
+    WriteBytes(target, longer);
+  }
 }
 
 TEST_F(RefusedReadTest, DamagedTextureIsNamedAndMissingFilesToo) {
@@ -284,6 +337,27 @@ TEST_F(SaveTest, ShorterTrackLeavesTheTail) {
   EXPECT_EQ(ReadBytes(target), File().Bytes() + longer.substr(213));
   ASSERT_TRUE(FileIO::ReadLevel(target).Ok());
   EXPECT_EQ(Saved(), File().Bytes());
+}
+
+TEST_F(SaveTest, AFolderThatCannotBeSyncedIsToldOnce) {
+  struct : FileCalls {
+    int Sync(int file) override {
+      struct stat status {};
+      fstat(file, &status);
+      errno = EIO;
+      return S_ISDIR(status.st_mode) ? -1 : 0;
+    }
+  } calls;
+  UseFileCalls(&calls);
+  std::filesystem::remove_all(folder / "levels");
+  boxes.answers = {folder / "t.lvl"};
+  for (int save = 0; save < 2; ++save) EXPECT_EQ(FileIO::SaveTrack(), FileIO::Outcome::Done);
+  UseFileCalls(nullptr);
+  EXPECT_EQ(Document.CurrentFileName, folder / "t.lvl");
+  EXPECT_EQ(boxes.messages, std::vector<std::string>{Document.CurrentFileName +
+                                                     ": saved, but a power cut might still undo it:"
+                                                     " Input/output error"});
+  EXPECT_EQ(boxes.shown[0].folder, folder / "") << "there is no folder of levels";
 }
 
 TEST_F(SaveTest, TrackWithoutBlocksIsRefused) {

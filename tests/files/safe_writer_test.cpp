@@ -2,41 +2,45 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 
+#include "files/file_calls.h"
+#include "files/stray_files.h"
+#include "platform/retry.h"
+#include "platform/whole_file.h"
 #include "tests/support/null_editor.h"
 
 namespace {
 
-/// Fails the call with this number, counted from 1, or writes beyond so many bytes.
+/// Fails the call with this number, counted from 1.
 class FaultyCalls : public FileCalls {
  public:
-  int failingCall = 0;
-  size_t diskSpace = SIZE_MAX;
+  FaultyCalls() { UseFileCalls(this); }
+  ~FaultyCalls() override { UseFileCalls(nullptr); }
+  int failingCall = 0, error = EIO;
   int calls = 0;
   std::string failed;
 
   int OpenFolder(const char* path) override {
     return Fails("open") ? -1 : FileCalls::OpenFolder(path);
   }
-  int OpenTemporary(char* name) override {
-    return Fails("create") ? -1 : FileCalls::OpenTemporary(name);
+  int Create(const char* path, mode_t mode) override {
+    return Fails("create") ? -1 : FileCalls::Create(path, mode);
   }
-  int SetOwnerAndMode(int file, uid_t owner, gid_t group, mode_t mode) override {
-    return Fails("mode") ? -1 : FileCalls::SetOwnerAndMode(file, owner, group, mode);
+  int SetMode(int file, mode_t mode) override {
+    return Fails("mode") ? -1 : FileCalls::SetMode(file, mode);
+  }
+  int SetList(int file, const std::string& list) override {
+    return Fails("list") ? -1 : FileCalls::SetList(file, list);
   }
   ssize_t Write(int file, const char* bytes, size_t count) override {
-    if (Fails("write")) return -1;
-    if (diskSpace == 0) {
-      errno = ENOSPC;
-      return -1;
-    }
-    const ssize_t written = FileCalls::Write(file, bytes, std::min(count, diskSpace));
-    if (diskSpace != SIZE_MAX) diskSpace -= static_cast<size_t>(written);
-    return written;
+    return Fails("write") ? -1 : FileCalls::Write(file, bytes, count);
   }
   int Sync(int file) override { return Fails("sync") ? -1 : FileCalls::Sync(file); }
   int Close(int file) override {
@@ -53,7 +57,7 @@ class FaultyCalls : public FileCalls {
   bool Fails(const char* name) {
     if (++calls != failingCall) return false;
     failed = name;
-    errno = EIO;
+    errno = error;
     return true;
   }
 };
@@ -72,73 +76,121 @@ class SafeWriterTest : public ::testing::Test {
 };
 
 TEST_F(SafeWriterTest, AnyFailingCallLeavesOldOrNewWhole) {
-  const std::string old = "the old content", fresh = "new", merged = "new old content";
+  const std::string old = "the old content", merged = "new old content";
   for (int call = 1;; ++call) {
     WriteBytes(target, old);
+    chmod(target.c_str(), 0664);
     FaultyCalls calls;
     calls.failingCall = call;
-    const std::string reason = WriteFileSafely(target, fresh, calls);
+    const Written written = WriteFileSafely(target, "new");
+    EXPECT_EQ(written.failure.empty(), ReadBytes(target) == merged) << calls.failed;
+    EXPECT_TRUE(ReadBytes(target) == (written.failure.empty() ? merged : old)) << calls.failed;
+    // Only the folder's sync comes after the rename.
+    EXPECT_EQ(written.warning.empty(), !(calls.failed == "sync" && written.failure.empty()));
+    struct stat status {};
+    stat(target.c_str(), &status);
+    EXPECT_EQ(status.st_mode & 0777U, calls.failed == "list" ? 0600U : 0664U) << calls.failed;
+    EXPECT_EQ(FilesInFolder(), 1U) << "nothing left over after " << calls.failed;
     if (calls.failed.empty()) {
-      EXPECT_EQ(reason, "");
       EXPECT_GT(call, 8) << "every step was made to fail";
       break;
     }
-    const std::string content = ReadBytes(target);
-    EXPECT_TRUE(content == old || content == merged) << calls.failed;
-    // Only what comes after the rename may leave the new content.
-    if (content == merged) {
-      EXPECT_TRUE(calls.failed == "sync" || calls.failed == "close");
-    }
-    // The folder's handle is closed when all is done; nothing can be lost by then.
-    if (!(calls.failed == "close" && content == merged)) {
-      EXPECT_NE(reason, "") << calls.failed;
-    }
-    EXPECT_EQ(FilesInFolder(), 1U) << "nothing left over after " << calls.failed;
+  }
+  for (const int ofTheFolder : {1, 2}) {
+    FaultyCalls calls;
+    calls.failingCall = ofTheFolder;
+    calls.error = EACCES;
+    EXPECT_TRUE(WriteFileSafely(target, "x").failure.starts_with("the folder " + folder.Path()));
   }
 }
 
-TEST_F(SafeWriterTest, FullDiskAtEveryByte) {
-  const std::string old = "old";
+TEST_F(SafeWriterTest, NoRoomAfterAnyByte) {
   const std::string fresh = "fresh content";
-  for (size_t space = 0; space <= fresh.size(); ++space) {
-    WriteBytes(target, old);
-    FaultyCalls calls;
-    calls.diskSpace = space;
-    const std::string reason = WriteFileSafely(target, fresh, calls);
-    EXPECT_EQ(reason.empty(), space == fresh.size());
-    EXPECT_EQ(ReadBytes(target), space == fresh.size() ? fresh : old);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  for (size_t room = 0; room <= fresh.size(); ++room) {
+    WriteBytes(target, "old");
+    const rlimit limit{room, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+    const Written written = WriteFileSafely(target, fresh);
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(written.failure, room == fresh.size() ? "" : "File too large");
+    EXPECT_EQ(ReadBytes(target), room == fresh.size() ? fresh : "old");
     EXPECT_EQ(FilesInFolder(), 1U);
   }
 }
 
-TEST_F(SafeWriterTest, KeepsPermissionsAndFollowsLinks) {
-  WriteBytes(folder / "real.lvl", "old content");
+TEST_F(SafeWriterTest, KeepsPermissionsTailsAndLinks) {
+  const std::string tail(200'000, 't');
+  WriteBytes(folder / "real.lvl", "old" + tail);
   chmod((folder / "real.lvl").c_str(), 0640);
   std::filesystem::create_symlink("real.lvl", folder / "second");
   std::filesystem::create_symlink(folder / "second", target);
-  EXPECT_EQ(WriteFileSafely(target, "new"), "");
+  EXPECT_EQ(WriteFileSafely(target, "new").failure, "");
   EXPECT_TRUE(std::filesystem::is_symlink(target));
-  EXPECT_EQ(ReadBytes(folder / "real.lvl"), "new content");
+  EXPECT_TRUE(ReadBytes(folder / "real.lvl") == "new" + tail);
   struct stat status {};
   ASSERT_EQ(stat((folder / "real.lvl").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777U, 0640U);
 
   std::filesystem::remove(target);
   std::filesystem::create_symlink("made.lvl", target);
-  EXPECT_EQ(WriteFileSafely(target, "through a link to nothing"), "");
+  const mode_t mask = umask(027);
+  EXPECT_EQ(WriteFileSafely(target, "through a link to nothing").failure, "");
+  umask(mask);
   EXPECT_EQ(ReadBytes(folder / "made.lvl"), "through a link to nothing");
+  ASSERT_EQ(stat(target.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777U, 0640U);
 
   std::filesystem::create_symlink("loop", folder / "loop");
-  EXPECT_NE(WriteFileSafely(folder / "loop", "x"), "");
+  EXPECT_NE(WriteFileSafely(folder / "loop", "x").failure, "");
 }
 
-TEST_F(SafeWriterTest, RefusesWhatIsNoFile) {
-  EXPECT_EQ(WriteFileSafely(folder.Path(), "x"), "it is a folder");
-  EXPECT_EQ(WriteFileSafely("/dev/full", "x"), "it is not a regular file");
-  EXPECT_NE(WriteFileSafely(folder / "none/t.lvl", "x"), "");
+TEST_F(SafeWriterTest, RefusesWhatIsNoFileOrNotOurs) {
+  EXPECT_EQ(WriteFileSafely(folder.Path(), "x").failure, "it is a folder");
+  EXPECT_EQ(WriteFileSafely("/dev/full", "x").failure, "it is not a regular file");
+  EXPECT_NE(WriteFileSafely(folder / "none/t.lvl", "x").failure, "");
   WriteBytes(target, "old");
   std::string bytes;
   EXPECT_NE(ReadWholeFile(target + "/x", bytes), "");
+  std::filesystem::resize_file(target, kGreatestFile + 1);
+  EXPECT_EQ(ReadWholeFile(target, bytes), "it is too large");
+  EXPECT_EQ(WriteFileSafely(target, "x").failure, "it is too large");
+  int interruptions = 3;
+  EXPECT_EQ(RetryInterrupted([&] {
+              errno = EINTR;
+              return interruptions-- > 0 ? -1 : 7;
+            }),
+            7);
+}
+
+TEST_F(SafeWriterTest, AKilledSavesFileIsRemovedALivingOnesIsNot) {
+  struct Waiting : FaultyCalls {
+    int Sync(int) override { return pause(); }
+  };
+  WriteBytes(target, "old");
+  const pid_t saving = fork();
+  if (saving == 0) {
+    Waiting calls;
+    WriteFileSafely(folder / "other.lvl", "half a track");
+    _exit(1);
+  }
+  while (FilesInFolder() < 2) usleep(1000);
+  // As if a later process had got the number of a dead one; and two of an older program.
+  std::string reused = TemporaryName();
+  const size_t start = reused.find('-', reused.find('-') + 1) + 1;
+  WriteBytes(folder / reused.replace(start, reused.find('-', start) - start, "1"), "");
+  WriteBytes(folder / ".vorbilax-aZ09bY", "");
+  WriteBytes(folder / ".vorbilax-aZ09bX", "");
+  using namespace std::chrono_literals;
+  std::filesystem::last_write_time(folder / ".vorbilax-aZ09bX",
+                                   std::filesystem::file_time_type::clock::now() - 25h);
+  EXPECT_EQ(WriteFileSafely(target, "new").failure, "");
+  EXPECT_EQ(FilesInFolder(), 3U) << "the track, the living one, the young one";
+  kill(saving, SIGKILL);
+  waitpid(saving, nullptr, 0);
+  EXPECT_EQ(WriteFileSafely(target, "new").failure, "");
+  EXPECT_EQ(FilesInFolder(), 2U);
 }
 
 }  // namespace

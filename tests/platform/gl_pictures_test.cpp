@@ -217,6 +217,28 @@ TEST_P(Pictures, ATextureCoversASpriteUpright) {
   EXPECT_EQ(screen.executor->ReadPicture().At(12, 12), 0xFFFF0000);
 }
 
+TEST_P(Pictures, ATextureBeyondTheDeviceIsToldOnceByNameAndDrawnWithout) {
+  Screen screen = MakeScreen(2, 1);
+  const auto great = std::make_shared<TextureObject>(Image(1 << 20, 1),
+                                                     TextureObject::Format::Colour32, "great.bmp");
+  const TexturePtr good = PlainTexture(0xFFFF0000);
+  for (int frame = 0; frame < 3; ++frame) {
+    Device& device = Begin(screen);
+    device.SetTexture(good);
+    DrawRectangle(device, 0, 0, 1, 1, 0, 0xFFFFFFFF);
+    device.SetTexture(great);
+    DrawRectangle(device, 1, 0, 2, 1, 0, 0xFF00FF00);
+    try {
+      EXPECT_EQ(End(screen).pixels, (std::vector{0xFFFF0000, 0xFF00FF00}));
+      EXPECT_GT(frame, 0);
+    } catch (const PlatformError& failure) {
+      EXPECT_EQ(frame, 0);
+      EXPECT_TRUE(std::string(failure.what()).starts_with("great.bmp: ")) << failure.what();
+      EXPECT_EQ(screen.Present().At(1, 0), kGround) << "what could not be drawn is forgotten";
+    }
+  }
+}
+
 TEST_P(Pictures, ImpossibleTargetsAreRefused) {
   EXPECT_THROW(MakeScreen(0, 10), PlatformError);
   EXPECT_THROW(MakeScreen(10, 1 << 20), PlatformError);

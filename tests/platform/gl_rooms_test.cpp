@@ -4,6 +4,7 @@
 #include "platform/d3dx.h"
 #include "platform/gl/frame_memory.h"
 #include "platform/gl/frustum.h"
+#include "platform/gl/texture_arrays.h"
 
 namespace {
 
@@ -16,6 +17,18 @@ VertexBufferPtr BoxBuffer(float halfSide) {
 Camera DefaultCamera() {
   return {d3dx::LookAtLH({0, 25, -18}, {0, 8, 0}, {0, 1, 0}),
           d3dx::PerspectiveFovLH(0.785398F, 1, 1, 500)};
+}
+
+TEST(TextureArrays, GreatPicturesComeInSmallNumbers) {
+  for (int side = 1; side <= 16384; side *= 2) {
+    const gl::LayerCounts counts = gl::LayersFor(side, side, 2048);
+    const int64_t bytes = int64_t{4} * side * side;
+    EXPECT_TRUE(counts.first == 1 || counts.first * bytes <= int64_t{16} << 20) << side;
+    EXPECT_TRUE(counts.most == 1 || counts.most * bytes <= int64_t{256} << 20) << side;
+    EXPECT_TRUE(side > 512 || counts.first == 8) << side;
+    EXPECT_TRUE(side > 256 || counts.most == 256) << side;
+  }
+  EXPECT_EQ(gl::LayersFor(4, 4, 5).first, 5);
 }
 
 // That nothing visible is lost shows in the generated scenes.

@@ -38,3 +38,12 @@ cmp "$track" "$work/new.lvl" || fail "the converted old version differs"
 
 expect_status 0 "$tool" info "$track" --json --data "$work"
 grep -q '"missing": true' "$work/out" || fail "textures of another data folder are missing"
+
+# What is too large, and output that finds no room, is told in words.
+truncate -s 1G "$work/huge.lvl"
+expect_status 1 "$tool" info "$work/huge.lvl"
+grep -q 'too large' "$work/err" || fail "another reason: $(cat "$work/err")"
+expect_status 1 bash -c 'ulimit -f 1; exec "$@"' - "$tool" convert "$track" "$work/out.lvl"
+grep -q 'File too large' "$work/err" || fail "another reason: $(cat "$work/err")"
+"$tool" info "$track" >/dev/full 2>"$work/err" && fail "lost output is no failure"
+grep -q 'No space left' "$work/err" || fail "another reason: $(cat "$work/err")"

@@ -11,9 +11,9 @@ int Convert(const std::string& input, const std::string& output) {
   if (!editor.Start()) return kBadInput;
   FileIO::Result result = FileIO::ReadLevel(input);
   if (result.Ok()) result = FileIO::WriteLevel(output);
-  if (result.Ok()) return kFine;
-  std::fprintf(stderr, "%s\n", result.message.c_str());
-  return kBadInput;
+  const std::string& told = result.Ok() ? result.warning : result.message;
+  if (!told.empty()) std::fprintf(stderr, "%s\n", told.c_str());
+  return result.Ok() ? kFine : kBadInput;
 }
 
 }  // namespace track_tool

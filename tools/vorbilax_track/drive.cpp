@@ -2,8 +2,8 @@
 #include <cstring>
 
 #include "files/FileIO.h"
-#include "files/safe_writer.h"
 #include "platform/paths.h"
+#include "platform/whole_file.h"
 #include "play/clsPlayer.h"
 #include "render/frame/clsShadow.h"
 #include "tools/vorbilax_track/commands.h"
@@ -54,9 +54,7 @@ int DriveTrack(const std::string& file, const std::string& script, bool untilEnd
     const FileIO::Result result = FileIO::ReadLevel(file);
     if (!result.Ok()) return BadInput(result.message);
     LoadCar();
-    const int status = Run(runs, untilEnd);
-    if (std::fflush(stdout) != 0) return BadInput("the rows could not be written");
-    return status;
+    return Run(runs, untilEnd);
   } catch (const ScriptError& failure) {
     return BadInput(script + ": " + failure.what());
   } catch (const std::exception& failure) {

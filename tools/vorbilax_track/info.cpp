@@ -5,9 +5,8 @@
 
 #include "files/level_bytes.h"
 #include "files/level_format.h"
-#include "files/safe_writer.h"
-#include "platform/numbers.h"
 #include "platform/paths.h"
+#include "platform/whole_file.h"
 #include "tools/vorbilax_track/commands.h"
 
 namespace track_tool {
@@ -36,7 +35,7 @@ ordered_json Describe(const LevelFile& level) {
           {"platforms", level.Platforms.size()},
           {"ramps", level.Ramps.size()},
           {"stars", level.Stars.size()},
-          {"gravity", ShortestDecimal(ToSingle(level.StoredGravity / 1000.0 * 2.5))},
+          {"gravity", ShortestDecimal(GravityOf(level.StoredGravity))},
           {"background", level.BackgroundName.Trimmed()},
           {"textures", textures}};
 }

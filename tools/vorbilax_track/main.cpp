@@ -1,8 +1,33 @@
 // vorbilax-track: level files without the editor's window, for scripts and tests.
 #include <CLI/CLI.hpp>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <functional>
 
+#include "platform/error_text.h"
 #include "platform/paths.h"
 #include "tools/vorbilax_track/commands.h"
+
+namespace {
+
+/// The command's status; what it could not foresee is bad input too.
+int Run(const std::function<int()>& command) {
+  std::string reason;
+  try {
+    const int status = command();
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return status;
+    reason = "the output could not be written: " + ErrorText(errno);
+  } catch (const std::bad_alloc&) {
+    reason = ErrorText(ENOMEM);
+  } catch (const std::exception& failure) {
+    reason = failure.what();
+  }
+  std::fprintf(stderr, "%s\n", reason.c_str());
+  return track_tool::kBadInput;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   using namespace track_tool;
@@ -45,8 +70,12 @@ int main(int argc, char** argv) {
   }
   while (data.size() > 1 && data.ends_with('/')) data.pop_back();
   paths::InstallFolder(data);
-  if (info->parsed()) return Info(input, json);
-  if (convert->parsed()) return Convert(input, output);
-  if (drive->parsed()) return DriveTrack(input, script, untilEnd);
-  return Render(input, output, options);
+  // A limit for file sizes is to fail like a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
+  return Run([&] {
+    if (info->parsed()) return Info(input, json);
+    if (convert->parsed()) return Convert(input, output);
+    if (drive->parsed()) return DriveTrack(input, script, untilEnd);
+    return Render(input, output, options);
+  });
 }
