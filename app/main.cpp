@@ -1,10 +1,14 @@
 // The editor: chooses the backends, builds the windows, runs them.
+#include <csignal>
+
 #include "editor/frmMain.h"
 #include "level/globals.h"
 #include "platform/paths.h"
 #include "platform/qt/application.h"
 
 int main(int argc, char** argv) {
+  // A limit on the size of files must fail the write, not end the program.
+  std::signal(SIGXFSZ, SIG_IGN);
   // The main window's client area.
   constexpr int kWidth = 800, kHeight = 574;
   qt::Application application(argc, argv, kWidth, kHeight);
