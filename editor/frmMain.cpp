@@ -11,9 +11,9 @@
 #include "play/clsPlayer.h"
 #include "play/play_frame.h"
 #include "render/device/DirectX.h"
-#include "render/frame/RenderFrame.h"
 #include "render/device/clsParticles.h"
 #include "render/frame/clsShadow.h"
+#include "render/frame/frame_steps.h"
 
 namespace {
 
@@ -93,7 +93,7 @@ void frmMain::Pass() {
 void frmMain::Frame() {
   LastFrameCount_ = services_.clock.Counter();
   try {
-    FrameSteps();
+    RunFrame({[this] { ProcessKeyboard(); }, [this] { return RestartTrack(); }, {}});
   } catch (const std::exception& failure) {
     // A frame fails 25 times a second; the user is told once.
     if (lastFrameFailure_ != failure.what()) {
@@ -105,18 +105,7 @@ void frmMain::Frame() {
   NowCount_ = services_.clock.Counter();
 }
 
-void frmMain::FrameSteps() {
-  ProcessKeyboard();
-  if (Document.EditorMode == PlayMode) play::Update([this] { return RestartTrack(); });
-  RenderFrame();
-  if (!Document.PlatformsPaused) MovePlatforms();
-}
-
-void frmMain::MovePlatforms() {
-  for (clsMovingPlatform& platform : Live(Document.Platforms, Document.PlatformCount)) {
-    platform.move();
-  }
-}
+void frmMain::MovePlatforms() { ::MovePlatforms(); }
 
 void frmMain::ProcessKeyboard() {
   if (!DirectInput::PollKeyboard()) return;

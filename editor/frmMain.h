@@ -49,7 +49,6 @@ class frmMain {
   // frmMain.cpp
   void StartDocument();
   void Frame();
-  void FrameSteps();
   void MoveCameraByKeys();
   void EndAfterFailedStart();
   void Shutdown();

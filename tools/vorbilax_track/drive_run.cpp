@@ -10,9 +10,8 @@
 #include "play/CollisionDetection.h"
 #include "play/DirectInput.h"
 #include "play/clsPlayer.h"
-#include "play/play_frame.h"
 #include "render/device/DirectX.h"
-#include "render/frame/RenderFrame.h"
+#include "render/frame/frame_steps.h"
 
 namespace track_tool {
 namespace {
@@ -82,18 +81,19 @@ void Drive::RestoreTrack() const { Check(FileIO::ReadLevelBytes(track_, "the tra
 
 DriveRow Drive::Step(const KeyboardState& keys) {
   ++clock_.frame;
-  DirectInput::KeyState = keys;
-  play::PollCarKeys();
-  DirectX::ApplyCamera();
   // A finished run is reset before the game goes on.
   const bool wasExploding = Player.getexplodeStatus() && !Player.DeathStatus();
-  play::Update([this] {
-    RestoreTrack();
-    return true;
-  });
-  const char* const event = EventOf(wasExploding);
-  RenderFrame();
-  for (auto& platform : Live(Document.Platforms, Document.PlatformCount)) platform.move();
+  const char* event = "";
+  RunFrame({[&keys] {
+              DirectInput::KeyState = keys;
+              play::PollCarKeys();
+              DirectX::ApplyCamera();
+            },
+            [this] {
+              RestoreTrack();
+              return true;
+            },
+            [&] { event = EventOf(wasExploding); }});
   return RowNow(clock_.frame, event);
 }
 

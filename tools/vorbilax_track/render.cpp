@@ -5,7 +5,7 @@
 #include "platform/numbers.h"
 #include "platform/qt/images.h"
 #include "render/device/DirectX.h"
-#include "render/frame/RenderFrame.h"
+#include "render/frame/frame_steps.h"
 #include "tools/vorbilax_track/commands.h"
 #include "tools/vorbilax_track/headless.h"
 
@@ -20,14 +20,6 @@ void LookAtDepth(double depth) {
   DirectX::ApplyCamera();
 }
 
-/// As the editor's loop runs them: platforms move after they were drawn.
-void RunFrames(int frames) {
-  for (int frame = 0; frame < frames; ++frame) {
-    RenderFrame();
-    for (auto& platform : Live(Document.Platforms, Document.PlatformCount)) platform.move();
-  }
-}
-
 }  // namespace
 
 int Render(const std::string& file, const std::string& picture, const RenderOptions& options) {
@@ -40,7 +32,7 @@ int Render(const std::string& file, const std::string& picture, const RenderOpti
   }
   try {
     LookAtDepth(options.depth);
-    RunFrames(options.frames);
+    for (int frame = 0; frame < options.frames; ++frame) RunFrame({[] {}, {}, {}});
     qt::SaveImageFile(editor.ReadPicture(), picture);
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "%s\n", failure.what());

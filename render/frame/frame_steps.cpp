@@ -1,0 +1,20 @@
+#include "render/frame/frame_steps.h"
+
+#include "level/globals.h"
+#include "render/frame/RenderFrame.h"
+
+void RunFrame(const FrameSteps& steps) {
+  steps.poll();
+  if (Document.EditorMode == PlayMode) {
+    play::Update(steps.restoreTrack);
+    if (steps.updated) steps.updated();
+  }
+  RenderFrame();
+  if (!Document.PlatformsPaused) MovePlatforms();
+}
+
+void MovePlatforms() {
+  for (clsMovingPlatform& platform : Live(Document.Platforms, Document.PlatformCount)) {
+    platform.move();
+  }
+}
