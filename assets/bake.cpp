@@ -97,7 +97,8 @@ Image BakeFloor(const TileFunction& surface) {
   constexpr double kSoftened = 0.45;
   Colors colors = BakeColors(kUnitTile, surface);
   Color mean;
-  for (const Color& color : colors) mean = mean + color * (1.0 / static_cast<double>(colors.size()));
+  for (const Color& color : colors)
+    mean = mean + color * (1.0 / static_cast<double>(colors.size()));
   for (Color& color : colors) color = Mix(color, mean, kSoftened);
   return ToImage(colors, kUnitTile);
 }

@@ -5,13 +5,13 @@
 #include <iostream>
 #include <stdexcept>
 
-#include "platform/qt/images.h"
 #include "assets/backdrops.h"
 #include "assets/effects.h"
 #include "assets/models.h"
 #include "assets/readme.h"
 #include "assets/textures.h"
 #include "assets/tracks.h"
+#include "platform/qt/images.h"
 
 namespace {
 

@@ -52,8 +52,7 @@ Texel Marble(double u, double v) {
   Texel t;
   t.color = Mix(Hex(0xFBF8F3), Hex(0xD3D2D9), Smooth(0.28, 0.02, wide) * 0.8);
   t.color = Mix(t.color, Hex(0x6F7686), 0.55 * Smooth(0.075, 0.0, wide));
-  t.color =
-      Mix(t.color, Hex(0xC2A067), 0.5 * Smooth(0.09, 0.0, thin) * Smooth(-0.15, 0.1, drift));
+  t.color = Mix(t.color, Hex(0xC2A067), 0.5 * Smooth(0.09, 0.0, thin) * Smooth(-0.15, 0.1, drift));
   t.shine = 0.2;
   return t;
 }
@@ -77,7 +76,8 @@ Texel Planks(double u, double v) {
   const int plank = static_cast<int>(u * kPlanks);
   const double across = Part(u * kPlanks);
   const double shift = Hash(plank, 0, 171);
-  const double seam = std::min(std::min(across, 1 - across) / kPlanks, std::abs(Wrapped(v + shift)));
+  const double seam =
+      std::min(std::min(across, 1 - across) / kPlanks, std::abs(Wrapped(v + shift)));
   const double fibre = Fractal(u * 3, v + shift, 3, 1, 183) - 0.5;
   Texel t;
   t.color = Mix(Hex(0xC98B4E), Hex(0xE5B273), Hash(plank, 1, 171)) * (1 + 0.22 * fibre);

@@ -148,7 +148,8 @@ Pictures KindTextures() {
                     {"Red Cross on Grey.bmp", BakeTile(kUnitTile, CrossTile)}};
   for (int phase = 0; phase < kTurboPhases; ++phase) {
     const auto draw = [phase](double u, double v) { return TurboTile(u, v, phase); };
-    pictures.push_back({"AnimationTest_" + std::to_string(phase) + ".bmp", BakeTile(kWideTile, draw)});
+    pictures.push_back(
+        {"AnimationTest_" + std::to_string(phase) + ".bmp", BakeTile(kWideTile, draw)});
   }
   return pictures;
 }

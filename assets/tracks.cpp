@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "files/level_format.h"
 #include "assets/tracks_looks.h"
 #include "assets/tracks_parts.h"
+#include "files/level_format.h"
 
 namespace art {
 namespace {

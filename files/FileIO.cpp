@@ -34,14 +34,7 @@ void ShowBackdropIfPossible(const FixedText<50>& name) {
 
 /// Places the built track; nothing here can fail.
 void Replace(LevelFile&& level, BuiltTrack&& track) {
-  Document.BlockCount = static_cast<int32_t>(track.Blocks.size()) - 1;
-  Document.RampCount = static_cast<int32_t>(track.Ramps.size()) - 1;
-  Document.PlatformCount = static_cast<int32_t>(track.Platforms.size()) - 1;
-  Document.StarCount = static_cast<int32_t>(track.Stars.size()) - 1;
-  Document.Blocks = std::move(track.Blocks);
-  Document.Ramps = std::move(track.Ramps);
-  Document.Platforms = std::move(track.Platforms);
-  Document.Stars = std::move(track.Stars);
+  static_cast<PieceCollections&>(Document) = std::move(track.pieces);
   if (level.TrackRecords) Document.TrackRecords = *level.TrackRecords;
   Document.TrackSettings = std::move(level.TrackSettings);
   Document.Gravity = track.Gravity;

@@ -78,11 +78,12 @@ class Builder {
     star.Zpos(ToLong(record.Zpos));
   }
 
-  template <typename Object, typename Record>
-  std::vector<Object> Build(const std::vector<Record>& records) const {
-    std::vector<Object> objects(records.size());
+  template <typename Record, typename Object>
+  void Build(const std::vector<Record>& records, std::vector<Object>& objects,
+             int32_t& count) const {
+    objects.resize(records.size());
     for (size_t i = 0; i < records.size(); ++i) Fill(objects[i], records[i]);
-    return objects;
+    count = static_cast<int32_t>(records.size()) - 1;
   }
 
  private:
@@ -181,10 +182,11 @@ RampRecord DescribeRamp(const clsRamp& ramp, const TableIndex& index) {
 BuiltTrack BuildTrack(const LevelFile& level) {
   const Builder builder(level.TextureNames);
   BuiltTrack track;
-  track.Blocks = builder.Build<clsblock>(level.Blocks);
-  track.Ramps = builder.Build<clsRamp>(level.Ramps);
-  track.Platforms = builder.Build<clsMovingPlatform>(level.Platforms);
-  track.Stars = builder.Build<clsStar>(level.Stars);
+  PieceCollections& pieces = track.pieces;
+  builder.Build(level.Blocks, pieces.Blocks, pieces.BlockCount);
+  builder.Build(level.Ramps, pieces.Ramps, pieces.RampCount);
+  builder.Build(level.Platforms, pieces.Platforms, pieces.PlatformCount);
+  builder.Build(level.Stars, pieces.Stars, pieces.StarCount);
   track.Gravity = GravityOf(level.StoredGravity);
   return track;
 }

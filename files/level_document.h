@@ -9,10 +9,7 @@
 
 /// Objects built from a level file, not yet in place.
 struct BuiltTrack {
-  std::vector<clsblock> Blocks;
-  std::vector<clsRamp> Ramps;
-  std::vector<clsMovingPlatform> Platforms;
-  std::vector<clsStar> Stars;
+  PieceCollections pieces;
   float Gravity = 0;
 };
 

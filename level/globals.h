@@ -51,9 +51,9 @@ inline constexpr const char* kDefaultBackdrop = "_default.jpg";
 /// Greatest index of an object in its collection.
 inline constexpr int32_t kGreatestIndex = 32767;
 
-/// A count holds the index of the collection's last element, −1 when it is empty; elements beyond
-/// it are never reached.
-struct LevelDocument : TrackValues {
+/// The four collections. A count holds the index of the collection's last element, −1 when it is
+/// empty; elements beyond it are never reached.
+struct PieceCollections {
   std::vector<clsblock> Blocks;
   int32_t BlockCount = -1;
   std::vector<clsRamp> Ramps;
@@ -62,7 +62,9 @@ struct LevelDocument : TrackValues {
   int32_t PlatformCount = -1;
   std::vector<clsStar> Stars;
   int32_t StarCount = -1;
+};
 
+struct LevelDocument : TrackValues, PieceCollections {
   FixedText<50> BackgroundName;  ///< file name in BackgroundDir
   std::string BackgroundDir;
   clsBackground Background;

@@ -5,11 +5,7 @@
 
 /// Pieces and track-wide values. They are moved, never copied.
 struct KeptTrack {
-  std::vector<clsblock> Blocks;
-  std::vector<clsRamp> Ramps;
-  std::vector<clsMovingPlatform> Platforms;
-  std::vector<clsStar> Stars;
-  int32_t BlockCount = -1, RampCount = -1, PlatformCount = -1, StarCount = -1;
+  PieceCollections pieces;
   float Gravity = 0;
   FixedText<50> BackgroundName;
   TrackSettingsRecord TrackSettings;

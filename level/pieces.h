@@ -1,5 +1,6 @@
-// The kinds of pieces in one place: each with its collection, its count and its type code. A further
-// kind is a line here, its place in AllKinds, and the overloads that the compiler then misses.
+// The kinds of pieces in one place: each with its collection, its count and its type code. A
+// further kind is a line here, its place in AllKinds, and the overloads that the compiler then
+// misses.
 #pragma once
 
 #include <tuple>
@@ -22,14 +23,18 @@ struct PieceKind;
 
 template <>
 struct PieceKind<clsblock>
-    : PieceKindBase<clsblock, &LevelDocument::Blocks, &LevelDocument::BlockCount, TypeBlock> {};
+    : PieceKindBase<clsblock, &PieceCollections::Blocks, &PieceCollections::BlockCount, TypeBlock> {
+};
 template <>
 struct PieceKind<clsMovingPlatform>
-    : PieceKindBase<clsMovingPlatform, &LevelDocument::Platforms, &LevelDocument::PlatformCount, TypePlatform> {};
+    : PieceKindBase<clsMovingPlatform, &PieceCollections::Platforms,
+                    &PieceCollections::PlatformCount, TypePlatform> {};
 template <>
-struct PieceKind<clsRamp> : PieceKindBase<clsRamp, &LevelDocument::Ramps, &LevelDocument::RampCount, TypeRamp> {};
+struct PieceKind<clsRamp>
+    : PieceKindBase<clsRamp, &PieceCollections::Ramps, &PieceCollections::RampCount, TypeRamp> {};
 template <>
-struct PieceKind<clsStar> : PieceKindBase<clsStar, &LevelDocument::Stars, &LevelDocument::StarCount, TypeStar> {};
+struct PieceKind<clsStar>
+    : PieceKindBase<clsStar, &PieceCollections::Stars, &PieceCollections::StarCount, TypeStar> {};
 
 /// In the order in which picking tests them and level files hold them.
 using AllKinds = std::tuple<PieceKind<clsblock>, PieceKind<clsMovingPlatform>, PieceKind<clsRamp>,
@@ -54,7 +59,6 @@ void VisitKind(int32_t type, Visit visit) {
 template <typename Visit>
 void VisitSelected(Visit visit) {
   if (!Document.ObjectSelected) return;
-  VisitKind(Document.SelectedType, [&](auto kind) {
-    visit(kind.All().at(static_cast<size_t>(Document.SelectedIndex)));
-  });
+  VisitKind(Document.SelectedType,
+            [&](auto kind) { visit(kind.All().at(static_cast<size_t>(Document.SelectedIndex))); });
 }
