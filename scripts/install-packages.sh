@@ -8,9 +8,11 @@ packages=(
   libassimp-dev zlib1g-dev libcli11-dev nlohmann-json3-dev
   fonts-liberation
 )
-if [ "${1:-}" = tests ]; then
-  packages+=(clang libgtest-dev libgmock-dev xvfb xauth xdotool openbox x11-utils imagemagick)
-fi
+tests=(clang libgtest-dev libgmock-dev xvfb xauth x11-xkb-utils xdotool openbox x11-utils imagemagick)
+case "${1:-}" in
+  tests) packages+=("${tests[@]}") ;;
+  lint) packages+=("${tests[@]}" clang-tidy clang-format) ;;
+esac
 
 missing=()
 for package in "${packages[@]}"; do
