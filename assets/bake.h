@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/image.h"
 #include "assets/color.h"
+#include "platform/image.h"
 
 namespace art {
 
