@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "editor/history/history.h"
 #include "files/FileIO.h"
 #include "level/backdrop.h"
 #include "level/globals.h"
@@ -33,6 +34,7 @@ frmMain::frmMain(const Services& services) : services_(services) {
 }
 
 frmMain::~frmMain() {
+  history::steps.changed = nullptr;
   FileIO::TrackReplaced = nullptr;
   ticks::Use(nullptr);
 }
@@ -66,6 +68,7 @@ bool frmMain::Start() {
   controls.Check_Loop.Enabled(false);
   Document.PlatformsPaused = false;
   dialogs::Enter([this] { NewTrack(); });
+  history::steps.Reset();
   LastFrameCount_ = services_.clock.Counter();
   return true;
 }

@@ -62,11 +62,12 @@ class frmMain {
   void ConnectOtherItems();
 
   // frmMain_track.cpp: file, background, gravity, camera and help commands
-  void mnu_load_Click();
+  FileIO::Outcome mnu_load_Click();
   void ChooseBackdrop(size_t item);
   void ClearBackgroundChecks();
   void CheckBackdrop();
   void ChooseGravity(float gravity);
+  void TakeStep(void (*take)());
   void CheckGravity(bool normal);
   void VScroll1_Change();
   void TrackReplaced();

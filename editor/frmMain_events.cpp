@@ -1,4 +1,6 @@
 #include "editor/frmMain.h"
+#include "editor/history/history.h"
+#include "editor/history/undo_redo.h"
 #include "editor/insert.h"
 #include "editor/panel.h"
 #include "editor/picking.h"
@@ -40,6 +42,13 @@ void mnu_cut_Click() {
   selection::ShowProperties();
 }
 
+void mnu_duplicate_Click() {
+  if (Document.EditorMode != EditMode) return;
+  const int32_t platforms = Document.PlatformCount;
+  selection::DuplicateSelection();
+  if (Document.PlatformCount > platforms) panel::PausePlatforms();
+}
+
 void mnu_Paste_Click() {
   const int32_t platforms = Document.PlatformCount;
   selection::PasteClipboard();
@@ -49,6 +58,11 @@ void mnu_Paste_Click() {
   } else if (Controls().cmd_pause.Caption() == kPauseCaption) {
     panel::cmd_pause_Click();
   }
+}
+
+/// After what makes the track equal to its file.
+void NoteSaved(FileIO::Outcome outcome) {
+  if (outcome == FileIO::Outcome::Done) history::steps.MarkSaved();
 }
 
 }  // namespace
@@ -70,9 +84,9 @@ void frmMain::ConnectEvents() {
 void frmMain::ConnectFileAndModeItems() {
   MainControls& c = controls;
   c.mnu_New.onClick = [this] { NewTrack(); };
-  c.mnu_load.onClick = [this] { mnu_load_Click(); };
-  c.mnu_save.onClick = [] { FileIO::SaveTrack(); };
-  c.mnu_saveAS.onClick = [] { FileIO::SaveTrackDialog(); };
+  c.mnu_load.onClick = [this] { NoteSaved(mnu_load_Click()); };
+  c.mnu_save.onClick = [] { NoteSaved(FileIO::SaveTrack()); };
+  c.mnu_saveAS.onClick = [] { NoteSaved(FileIO::SaveTrackDialog()); };
   c.mnu_Quit.onClick = [this] { Shutdown(); };
   c.mnu_playmode.onClick = [this] { mnu_playmode_Click(); };
   c.mnu_editmode.onClick = [this] { mnu_editmode_Click(); };
@@ -82,6 +96,10 @@ void frmMain::ConnectEditItems() {
   controls.mnu_copy.onClick = [] { selection::CopySelection(false); };
   controls.mnu_cut.onClick = mnu_cut_Click;
   controls.mnu_Paste.onClick = mnu_Paste_Click;
+  controls.mnu_undo.onClick = [this] { TakeStep(history::UndoStep); };
+  controls.mnu_redo.onClick = [this] { TakeStep(history::RedoStep); };
+  controls.mnu_duplicate.onClick = mnu_duplicate_Click;
+  history::steps.changed = history::ShowInMenu;
 }
 
 void frmMain::ConnectInsertItems() {

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "editor/frmMain.h"
+#include "editor/history/history.h"
 #include "editor/panel.h"
 #include "editor/selection.h"
 #include "level/globals.h"
@@ -28,6 +29,7 @@ enum Key : int16_t {
   kPeriod = 190
 };
 
+constexpr history::Gesture kKeyGesture = 1;
 constexpr int kNoModifier = 0;
 constexpr int kCtrl = 2;
 
@@ -117,6 +119,8 @@ void frmMain::Form_KeyDown(int16_t& KeyCode, int Shift) {
   // A held key must not pile up blocks on one spot.
   const bool heldSpace = key == kSpace && std::exchange(SpaceHeld_, true);
   if (Document.EditorMode != EditMode || heldSpace) return;
+  // What a held key repeats is one step.
+  history::steps.Continue(kKeyGesture + static_cast<history::Gesture>(key));
   if (Shift == kCtrl) {
     if (std::exchange(KeyReleased_, false)) Run(kCtrlCommands, key, *this);
   } else if (Shift == kNoModifier && key == kF5) {
@@ -128,5 +132,6 @@ void frmMain::Form_KeyDown(int16_t& KeyCode, int Shift) {
 
 void frmMain::Form_KeyUp(int16_t KeyCode) {
   KeyReleased_ = true;
+  history::steps.EndGesture();
   if (KeyCode == kSpace || KeyCode == 0) SpaceHeld_ = false;
 }

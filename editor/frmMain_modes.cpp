@@ -1,4 +1,5 @@
 #include "editor/frmMain.h"
+#include "editor/history/undo_redo.h"
 #include "editor/selection.h"
 #include "level/globals.h"
 #include "platform/dialogs.h"
@@ -48,6 +49,7 @@ void frmMain::ReturnToEditing(const FileIO::Result& restored) {
 void frmMain::CheckMode(int32_t mode) {
   controls.mnu_editmode.Checked(mode == EditMode);
   controls.mnu_playmode.Checked(mode == PlayMode);
+  history::ShowInMenu();
 }
 
 void frmMain::ClearSelection() {

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "editor/frmMain.h"
+#include "editor/history/history.h"
 #include "editor/selection.h"
 #include "level/backdrop.h"
 #include "level/globals.h"
@@ -24,17 +25,27 @@ clsblock StartBlock() {
   return block;
 }
 
+/// Whether the document's track is a new one already.
+bool IsNewTrack(const clsblock& startBlock) {
+  return Document.BlockCount == 0 && Document.RampCount == -1 && Document.PlatformCount == -1 &&
+         Document.StarCount == -1 && Document.Gravity == kNormalGravity &&
+         Document.BackgroundName == FixedText<50>(kDefaultBackdrop) &&
+         !history::Differ({history::ChangedPiece<clsblock>{0, startBlock}});
+}
+
 }  // namespace
 
 void frmMain::NewTrack() {
   // Made before anything is replaced: a missing texture must not cost the present track.
   clsblock block = StartBlock();
+  const history::Command command("New Track");
+  const bool isNew = IsNewTrack(block);
+  KeptTrack replaced = TakeTrack();
   Document.TrackLoaded = true;
-  Document.RampCount = Document.PlatformCount = Document.StarCount = -1;
   Document.BlockCount = 0;
   Document.Gravity = kNormalGravity;
-  Document.Blocks.clear();
   Document.Blocks.push_back(std::move(block));
+  Document.Origin.clear();
 
   Document.SelectedIndex = 0;
   Document.SelectedType = TypeBlock;
@@ -49,23 +60,30 @@ void frmMain::NewTrack() {
   CheckBackdrop();
   controls.VScroll1.Value(controls.VScroll1.Maximum());
   selection::ShowProperties();
+  if (Document.EditorMode == EditMode && !isNew) history::steps.Replaced(std::move(replaced));
 }
 
-void frmMain::mnu_load_Click() {
-  const FileIO::Outcome outcome = FileIO::OpenTrackDialog();
+FileIO::Outcome frmMain::mnu_load_Click() {
+  const history::Command command("Open Track");
+  const bool played = Document.EditorMode == PlayMode;
+  KeptTrack replaced;
+  const FileIO::Outcome outcome = FileIO::OpenTrackDialog(&replaced);
   Document.EditorMode = EditMode;
   CheckMode(EditMode);
   // After a failed read the view stays where it was.
   if (outcome != FileIO::Outcome::Failed) DirectX::ResetCamera();
-  if (outcome == FileIO::Outcome::Done) {
-    // What was selected is gone with its track.
-    Document.ObjectSelected = false;
-    selection::ShowProperties();
-  }
+  if (outcome == FileIO::Outcome::Done) ClearSelection();
   CheckGravity(Document.Gravity == kNormalGravity);
+  // Play is left without a restore: what was edited is the step's other side.
+  std::optional<KeptTrack> edited = temporaryTrack_.Forget();
+  if (played && edited) replaced = std::move(*edited);
+  if (played || outcome == FileIO::Outcome::Done) history::steps.Replaced(std::move(replaced));
+  return outcome;
 }
 
 void frmMain::ChooseBackdrop(size_t item) {
+  const history::Command command("Background");
+  history::steps.TouchValues();
   ShowBackdrop(kBackdropFiles[item]);
   Document.BackgroundName = kBackdropFiles[item];
   CheckBackdrop();
@@ -84,7 +102,15 @@ void frmMain::CheckBackdrop() {
   }
 }
 
+void frmMain::TakeStep(void (*take)()) {
+  take();
+  CheckBackdrop();
+  CheckGravity(Document.Gravity == kNormalGravity);
+}
+
 void frmMain::ChooseGravity(float gravity) {
+  const history::Command command("Gravity");
+  history::steps.TouchValues();
   Document.Gravity = gravity;
   controls.frmMain.SetFocus();
   CheckGravity(gravity == kNormalGravity);

@@ -78,12 +78,14 @@ clsblock MakeBlock(const BlockRow& row) {
 float DepthAhead() { return ToSingle(double{DirectX::CameraPosition.z} + kTargetAhead); }
 
 bool AddBlock(BlockKind kind) {
+  const history::Command command("Insert");
   if (!selection::RoomForOneMore(Document.BlockCount)) return false;
   selection::AppendAndSelect(MakeBlock(kBlocks[static_cast<size_t>(kind)]));
   return true;
 }
 
 bool AddPlatform() {
+  const history::Command command("Insert");
   if (!selection::RoomForOneMore(Document.PlatformCount)) return false;
   clsMovingPlatform platform;
   platform.create(0, 0, DepthAhead());
@@ -100,6 +102,7 @@ bool AddPlatform() {
 }
 
 bool AddRamp() {
+  const history::Command command("Insert");
   if (!selection::RoomForOneMore(Document.RampCount)) return false;
   clsRamp ramp;
   ramp.create(0, 1, DepthAhead());
@@ -110,6 +113,7 @@ bool AddRamp() {
 }
 
 bool AddStar() {
+  const history::Command command("Insert");
   if (!selection::RoomForOneMore(Document.StarCount)) return false;
   clsStar star;
   star.load(paths::InInstallFolder("\\models\\orb.x"));

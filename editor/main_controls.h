@@ -30,7 +30,7 @@ struct MainControls {
   CheckBox Check_Loop;
 
   MenuItem mnu_File, mnu_New, mnu_load, mnu_save, mnu_saveAS, mnu_Quit;
-  MenuItem mnu_edit, mnu_copy, mnu_cut, mnu_Paste;
+  MenuItem mnu_edit, mnu_copy, mnu_cut, mnu_Paste, mnu_undo, mnu_redo, mnu_duplicate;
   MenuItem mnu_mode, mnu_playmode, mnu_editmode;
   MenuItem mnu_insert, mnu_block, mnu_MovingPlatform, mnu_instantkill, mnu_fallingBlock, mnu_ice,
       mnu_Ramp, mnu_Endlevel, mnu_BouncePad, mnu_turbo, mnu_building, mnu_Star;

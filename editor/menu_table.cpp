@@ -25,6 +25,9 @@ const MenuRow kMenus[] = {
     {&M::mnu_copy, "mnu_copy", "Copy", "Ctrl+C", &M::mnu_edit},
     {&M::mnu_cut, "mnu_cut", "Cut", "Ctrl+X", &M::mnu_edit},
     {&M::mnu_Paste, "mnu_Paste", "Paste", "Ctrl+V", &M::mnu_edit},
+    {&M::mnu_undo, "mnu_undo", "Undo", "Ctrl+Z", &M::mnu_edit},
+    {&M::mnu_redo, "mnu_redo", "Redo", "Ctrl+Y", &M::mnu_edit},
+    {&M::mnu_duplicate, "mnu_duplicate", "Duplicate", "Ctrl+D", &M::mnu_edit},
 
     {&M::mnu_mode, "mnu_mode", "Mode", "", nullptr},
     {&M::mnu_playmode, "mnu_playmode", "Play Mode!", "F3", &M::mnu_mode, true},
@@ -75,5 +78,6 @@ void MainControls::BuildMenus() {
       frmMain.menus.push_back(&item);
     }
   }
+  mnu_redo.otherShortcut = "Ctrl+Shift+Z";
   mnu_editmode.Checked(true);
 }

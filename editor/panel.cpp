@@ -25,65 +25,75 @@ UpDown& UpDownOf(SizeAxis axis) {
   return axis == SizeAxis::Height ? c.UpDown1 : axis == SizeAxis::Width ? c.UpDown2 : c.UpDown3;
 }
 
+/// Gives both arrows the click; what a held arrow repeats is one step.
+template <typename Click>
+void Connect(UpDown& upDown, Click click) {
+  const auto held = [click, &upDown](int direction) {
+    history::steps.Continue(reinterpret_cast<history::Gesture>(&upDown));
+    click(direction);
+  };
+  upDown.onUpClick = [held] { held(1); };
+  upDown.onDownClick = [held] { held(-1); };
+  upDown.onRelease = [] { history::steps.EndGesture(); };
+}
+
 void ConnectSize(SizeAxis axis, TextBox& box) {
   UpDown& upDown = UpDownOf(axis);
-  const auto click = [axis, &box, &upDown] {
+  Connect(upDown, [axis, &box, &upDown](int) {
     if (Document.ObjectSelected) {
       ResizeBy(axis);  // shows the size that the piece has then
     } else {
       box.Text(std::to_string(upDown.Value()));
     }
-  };
-  upDown.onUpClick = upDown.onDownClick = click;
+  });
 }
 
 void ConnectPosition(UpDown& upDown, int32_t dx, int32_t dy, int32_t dz) {
-  upDown.onUpClick = [=] { selection::MoveSelection(dx, dy, dz); };
-  upDown.onDownClick = [=] { selection::MoveSelection(-dx, -dy, -dz); };
+  Connect(upDown, [=](int by) { selection::MoveSelection(by * dx, by * dy, by * dz); });
 }
 
 /// Speed or distance of a platform. A refused click leaves the number as it was.
 template <typename Get, typename Set>
-void ConnectMotion(UpDown& upDown, TextBox& box, Get get, Set set) {
-  const auto click = [&upDown, &box, get, set] {
-    clsMovingPlatform* platform = selection::AtIndex<clsMovingPlatform>();
+void ConnectMotion(const char* name, UpDown& upDown, TextBox& box, Get get, Set set) {
+  Connect(upDown, [&upDown, &box, name, get, set](int) {
+    const clsMovingPlatform* platform = selection::AtIndex<clsMovingPlatform>();
     if (platform == nullptr) return;
     if (!Document.PlatformsPaused) {
       upDown.Value(get(*platform));
       dialogs::ShowMessage(selection::kPauseFirstText);
       return;
     }
-    set(*platform, ToByte(upDown.Value()));
+    selection::ChangeAtIndex<clsMovingPlatform>(
+        name, [&](clsMovingPlatform& p) { set(p, ToByte(upDown.Value())); });
     box.Text(std::to_string(upDown.Value()));
-  };
-  upDown.onUpClick = upDown.onDownClick = click;
+  });
 }
 
 void cmbo_Direction_Click() {
-  clsMovingPlatform* platform = selection::AtIndex<clsMovingPlatform>();
   const int index = Controls().cmbo_Direction.ListIndex();
-  if (platform != nullptr && index >= 0) {
-    platform->Mdir(static_cast<uint8_t>(index + clsMovingPlatform::Left));
-  }
+  if (index < 0) return;
+  selection::ChangeAtIndex<clsMovingPlatform>("Direction", [index](clsMovingPlatform& platform) {
+    platform.Mdir(static_cast<uint8_t>(index + clsMovingPlatform::Left));
+  });
 }
 
 void Check_Loop_Click() {
   CheckBox& box = Controls().Check_Loop;
-  clsMovingPlatform* platform = selection::AtIndex<clsMovingPlatform>();
-  if (platform == nullptr) return;
-  if (Document.PlatformsPaused) {
-    platform->MloopBack(box.Checked());
-  } else {
-    box.Checked(platform->MloopBack());
-  }
+  selection::ChangeAtIndex<clsMovingPlatform>("Loop", [&box](clsMovingPlatform& platform) {
+    if (Document.PlatformsPaused) {
+      platform.MloopBack(box.Checked());
+    } else {
+      box.Checked(platform.MloopBack());
+    }
+  });
 }
 
 void cmd_ramp_Click() {
-  if (clsRamp* ramp = selection::AtIndex<clsRamp>()) {
-    ramp->rotate();
+  selection::ChangeAtIndex<clsRamp>("Rotate", [](clsRamp& ramp) {
+    ramp.rotate();
     // The rotated wedge comes without the mark.
-    if (Document.ObjectSelected) selection::Mark(*ramp);
-  }
+    if (Document.ObjectSelected) selection::Mark(ramp);
+  });
   Controls().frmMain.SetFocus();
 }
 
@@ -113,7 +123,8 @@ void Stretch(clsStar&, int16_t, int16_t) {}
 
 void StretchClick(const DropDown& list, int16_t side) {
   if (list.ListIndex() < 0) return;
-  VisitSelected([&](auto& piece) { Stretch(piece, side, ToInteger(list.ListIndex())); });
+  selection::ChangeSelected(
+      "Stretch", [&](auto& piece) { Stretch(piece, side, ToInteger(list.ListIndex())); });
 }
 
 void File1_DblClick() {
@@ -134,10 +145,10 @@ void ConnectEvents() {
   ConnectPosition(c.UpDownZ, 0, 0, 1);
   using P = clsMovingPlatform;
   ConnectMotion(
-      c.UpDown_speed, c.txt_speed, [](const P& p) { return p.Mspeed(); },
+      "Speed", c.UpDown_speed, c.txt_speed, [](const P& p) { return p.Mspeed(); },
       [](P& p, uint8_t value) { p.Mspeed(value); });
   ConnectMotion(
-      c.UpDown_distance, c.txt_distance, [](const P& p) { return p.Mdist(); },
+      "Distance", c.UpDown_distance, c.txt_distance, [](const P& p) { return p.Mdist(); },
       [](P& p, uint8_t value) { p.Mdist(value); });
   c.cmbo_Direction.onClick = cmbo_Direction_Click;
   c.Check_Loop.onClick = Check_Loop_Click;

@@ -126,7 +126,7 @@ void MouseDown(int button, int shift, float x, float y) {
   selection::ShowProperties();
   if (!found || button != kRightButton) return;
   const std::string name = Controls().File1.FileName();
-  VisitSelected([&](auto& piece) { RightClick(piece, shift != 0, name); });
+  selection::ChangeSelected("Paint", [&](auto& piece) { RightClick(piece, shift != 0, name); });
 }
 
 }  // namespace picking

@@ -22,6 +22,8 @@ void CopySelection(bool cut);
 /// Adds a new object made from the clipboard, where the camera looks, and selects it. Throws
 /// PlatformError, adding nothing, when one of its pictures cannot be loaded.
 void PasteClipboard();
+/// Adds a copy of the selected object directly behind it and selects it; the clipboard stays.
+void DuplicateSelection();
 /// Removes the selected object; those after it move down by one.
 void DeleteSelection();
 

@@ -117,13 +117,18 @@ void Paste(PieceKind<clsStar>, float) { insert::AddStar(); }
 
 template <typename Kind>
 void Remove(Kind kind) {
-  kind.All().erase(kind.All().begin() + Document.SelectedIndex);
+  const auto piece = kind.All().begin() + Document.SelectedIndex;
+  history::steps.Removed<typename Kind::Piece>(Document.SelectedIndex, std::move(*piece));
+  kind.All().erase(piece);
   --kind.Count();
 }
 
 /// Deleting inside the row puts every platform back to its start; the last one leaves the others.
 void Remove(PieceKind<clsMovingPlatform> kind) {
   const bool last = Document.SelectedIndex == kind.Count();
+  for (int32_t i = 0; !last && i <= kind.Count(); ++i) {
+    if (i != Document.SelectedIndex) history::steps.Touch<clsMovingPlatform>(i);
+  }
   Remove<>(kind);
   if (last) return;
   for (clsMovingPlatform& platform : kind.Pieces()) {
@@ -134,10 +139,36 @@ void Remove(PieceKind<clsMovingPlatform> kind) {
   }
 }
 
+/// How far behind a piece the next one stands.
+double DepthOf(const BoxObject& box) { return box.scaleZ(); }
+double DepthOf(const clsRamp& ramp) { return ramp.scaleZ(); }
+double DepthOf(const clsStar&) { return 1; }
+
+/// A platform starts anew, wherever the other one is now.
+void StartAt(clsMovingPlatform& copy, const clsMovingPlatform& piece, double z) {
+  copy.Xpos(piece.GetInitalXpos());
+  copy.Ypos(piece.GetInitalYpos());
+  copy.Zpos(ToSingle(z));
+  copy.Mdir(piece.GetinitalMDir());
+}
+template <typename Piece>
+void StartAt(Piece& copy, const Piece&, double z) {
+  copy.Zpos(ToLong(z));
+}
+
+template <typename Piece>
+void Duplicate(const Piece& piece) {
+  if (!RoomForOneMore(PieceKind<Piece>::Count())) return;
+  Piece copy = piece;
+  StartAt(copy, piece, static_cast<double>(piece.Zpos()) + DepthOf(piece));
+  AppendAndSelect(std::move(copy));
+}
+
 }  // namespace
 
 void CopySelection(bool cut) {
   if (!Document.ObjectSelected) return;
+  const history::Command command("Cut");
   VisitSelected([](const auto& piece) { Copy(piece); });
   Document.Clipboard.ClipType = static_cast<uint8_t>(Document.SelectedType);
   Document.ClipboardFull = true;
@@ -146,6 +177,7 @@ void CopySelection(bool cut) {
 
 void PasteClipboard() {
   if (!Document.ClipboardFull) return;
+  const history::Command command("Paste");
   VisitKind(Document.Clipboard.ClipType, [](auto kind) {
     if (!RoomForOneMore(kind.Count())) return;
     Paste(kind, insert::DepthAhead());
@@ -153,8 +185,17 @@ void PasteClipboard() {
   });
 }
 
+void DuplicateSelection() {
+  if (!Document.ObjectSelected) return;
+  const history::Command command("Duplicate");
+  // The collection may move its pieces when it grows.
+  VisitSelected([](auto& piece) { Duplicate(piece); });
+  ShowProperties();
+}
+
 void DeleteSelection() {
   if (!Document.ObjectSelected) return;
+  const history::Command command("Delete");
   VisitKind(Document.SelectedType, [](auto kind) { Remove(kind); });
   Document.ObjectSelected = false;
 }

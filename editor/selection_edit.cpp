@@ -109,17 +109,17 @@ void Move(clsStar& star, int32_t dx, int32_t dy, int32_t dz) { MoveWhole(star, d
 
 void MoveSelection(int32_t dx, int32_t dy, int32_t dz) {
   if (!Document.ObjectSelected) return;
-  VisitSelected([=](auto& piece) { Move(piece, dx, dy, dz); });
+  ChangeSelected("Move", [=](auto& piece) { Move(piece, dx, dy, dz); });
   ShowProperties();
 }
 
 void ResizeSelection(int32_t width, int32_t height, int32_t depth) {
-  VisitSelected([=](auto& piece) { Resize(piece, width, height, depth); });
+  ChangeSelected("Resize", [=](auto& piece) { Resize(piece, width, height, depth); });
   ShowProperties();
 }
 
 void RetextureSelection(const std::string& name) {
-  VisitSelected([&name](auto& piece) { Paint(piece, name); });
+  ChangeSelected("Paint", [&name](auto& piece) { Paint(piece, name); });
   DeselectCurrent();
 }
 

@@ -19,9 +19,9 @@ FileIO::Result TemporaryTrack::Enter() {
   bytes_ = std::move(bytes);
   WriteFileSafely(TempTrackFile(), bytes_);
   // Play starts from the track exactly as a file read produces it.
-  edited_ = TakeTrack();
-  result = Read();
-  if (!result.Ok()) PutTrack(std::move(*std::exchange(edited_, std::nullopt)));
+  KeptTrack edited;
+  result = Read(&edited);
+  if (result.Ok()) edited_ = std::move(edited);
   return result;
 }
 
@@ -41,6 +41,8 @@ FileIO::Result TemporaryTrack::Leave() {
   return result;
 }
 
+std::optional<KeptTrack> TemporaryTrack::Forget() { return std::exchange(edited_, std::nullopt); }
+
 void TemporaryTrack::GiveBack() {
   if (!edited_) return;
   Document.ObjectSelected = false;
@@ -50,10 +52,10 @@ void TemporaryTrack::GiveBack() {
   edited_.reset();
 }
 
-FileIO::Result TemporaryTrack::Read() const {
+FileIO::Result TemporaryTrack::Read(KeptTrack* replaced) const {
   // Another copy of the editor shares the folder, so the file may be anybody's by now.
   std::string content;
   const bool readable = ReadWholeFile(TempTrackFile(), content).empty();
   const bool ours = readable && content.starts_with(bytes_);
-  return FileIO::ReadLevelBytes(ours ? content : bytes_, TempTrackFile());
+  return FileIO::ReadLevelBytes(ours ? content : bytes_, TempTrackFile(), replaced);
 }

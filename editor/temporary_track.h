@@ -23,8 +23,13 @@ class TemporaryTrack {
   /// another track, the edited pieces themselves.
   FileIO::Result Leave();
 
+  /// Ends play without a restore; hands out the edited pieces.
+  std::optional<KeptTrack> Forget();
+  /// The track's bytes as they were when play began.
+  const std::string& Bytes() const { return bytes_; }
+
  private:
-  FileIO::Result Read() const;
+  FileIO::Result Read(KeptTrack* replaced = nullptr) const;
   void GiveBack();
 
   std::string bytes_;

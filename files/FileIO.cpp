@@ -33,7 +33,8 @@ void ShowBackdropIfPossible(const FixedText<50>& name) {
 }
 
 /// Places the built track; nothing here can fail.
-void Replace(LevelFile&& level, BuiltTrack&& track) {
+void Replace(LevelFile&& level, BuiltTrack&& track, KeptTrack* replaced) {
+  if (replaced != nullptr) *replaced = TakeTrack();
   static_cast<PieceCollections&>(Document) = std::move(track.pieces);
   if (level.TrackRecords) Document.TrackRecords = *level.TrackRecords;
   Document.TrackSettings = std::move(level.TrackSettings);
@@ -66,6 +67,12 @@ Outcome ReportOutcome(const Result& result) {
   return Outcome::Done;
 }
 
+Outcome SaveTo(const std::string& path) {
+  const Outcome outcome = ReportOutcome(WriteLevel(path));
+  if (outcome == Outcome::Done) Document.Origin = path;
+  return outcome;
+}
+
 }  // namespace
 
 Result LevelBytes(std::string& bytes) {
@@ -96,18 +103,18 @@ Result WriteLevel(const std::string& path) {
   }
 }
 
-Result ReadLevel(const std::string& path) {
+Result ReadLevel(const std::string& path, KeptTrack* replaced) {
   std::string bytes;
   const std::string reason = ReadWholeFile(path, bytes);
-  return reason.empty() ? ReadLevelBytes(bytes, path) : Failure(path, reason);
+  return reason.empty() ? ReadLevelBytes(bytes, path, replaced) : Failure(path, reason);
 }
 
-Result ReadLevelBytes(std::string_view bytes, const std::string& name) {
+Result ReadLevelBytes(std::string_view bytes, const std::string& name, KeptTrack* replaced) {
   try {
     LevelFile level = ParseLevel(bytes);
     BuiltTrack track = BuildTrack(level);
     if (level.Version < kLevelFileVersion) dialogs::ShowMessage(kOldVersionText);
-    Replace(std::move(level), std::move(track));
+    Replace(std::move(level), std::move(track), replaced);
   } catch (const LevelFormatError& failure) {
     return {name + ": " + failure.what(), failure.field(), failure.offset(), {}};
   } catch (const std::overflow_error&) {
@@ -124,22 +131,22 @@ Result ReadLevelBytes(std::string_view bytes, const std::string& name) {
 Outcome SaveTrackDialog() {
   const auto path = dialogs::SaveFile(TrackDialog("Save File", kDefaultExtension));
   if (!path) return Outcome::Cancelled;
-  const Outcome outcome = ReportOutcome(WriteLevel(*path));
+  const Outcome outcome = SaveTo(*path);
   if (outcome == Outcome::Done) Document.CurrentFileName = *path;
   return outcome;
 }
 
-Outcome OpenTrackDialog() {
+Outcome OpenTrackDialog(KeptTrack* replaced) {
   const auto path = dialogs::OpenFile(TrackDialog("Open", ""));
   if (!path) return Outcome::Cancelled;
-  const Outcome outcome = ReportOutcome(ReadLevel(*path));
-  if (outcome == Outcome::Done) Document.CurrentFileName = *path;
+  const Outcome outcome = ReportOutcome(ReadLevel(*path, replaced));
+  if (outcome == Outcome::Done) Document.CurrentFileName = Document.Origin = *path;
   return outcome;
 }
 
 Outcome SaveTrack() {
   if (Document.CurrentFileName.empty()) return SaveTrackDialog();
-  return ReportOutcome(WriteLevel(Document.CurrentFileName));
+  return SaveTo(Document.CurrentFileName);
 }
 
 }  // namespace FileIO

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "files/level_document.h"
+#include "level/kept_track.h"
 
 namespace FileIO {
 
@@ -33,10 +34,11 @@ Result LevelBytes(std::string& bytes);
 Result WriteLevel(const std::string& path);
 
 /// Replaces the document's track by the file's, all or nothing. Its one message is the notice for
-/// an old version.
-Result ReadLevel(const std::string& path);
+/// an old version. The track that stood there before is moved to `replaced`, if that is given.
+Result ReadLevel(const std::string& path, KeptTrack* replaced = nullptr);
 /// The same from bytes in memory; `name` stands for the path in the result's message.
-Result ReadLevelBytes(std::string_view bytes, const std::string& name);
+Result ReadLevelBytes(std::string_view bytes, const std::string& name,
+                      KeptTrack* replaced = nullptr);
 
 /// How a file dialog and the command behind it ended; a failure has been shown to the user, and the
 /// first warning of the program's run.
@@ -45,7 +47,7 @@ enum class Outcome { Cancelled, Done, Failed };
 /// Asks for a file and writes the track to it.
 Outcome SaveTrackDialog();
 /// Asks for a file and reads it. Mode and check marks are the caller's.
-Outcome OpenTrackDialog();
+Outcome OpenTrackDialog(KeptTrack* replaced = nullptr);
 /// Writes to the current file; asks for one when there is none.
 Outcome SaveTrack();
 

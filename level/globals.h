@@ -81,6 +81,7 @@ struct LevelDocument : TrackValues, PieceCollections {
   bool ClipboardFull = false;
   ClipboardRecord Clipboard;
   std::string CurrentFileName;
+  std::string Origin;  ///< the file that the track was last read from or saved to; empty: a new one
 
   // Working state of the level file code.
   std::vector<std::string> TextureNames;

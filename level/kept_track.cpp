@@ -6,7 +6,7 @@
 
 KeptTrack TakeTrack() {
   return {std::exchange(static_cast<PieceCollections&>(Document), {}), Document.Gravity,
-          Document.BackgroundName, Document.TrackSettings, Document.TrackRecords};
+          Document.BackgroundName, Document.TrackSettings, Document.TrackRecords, Document.Origin};
 }
 
 void PutTrack(KeptTrack&& track) {
@@ -15,5 +15,6 @@ void PutTrack(KeptTrack&& track) {
   Document.BackgroundName = track.BackgroundName;
   Document.TrackSettings = std::move(track.TrackSettings);
   Document.TrackRecords = track.TrackRecords;
+  Document.Origin = std::move(track.Origin);
   ShowBackdrop(Document.BackgroundName.Trimmed());
 }

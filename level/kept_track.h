@@ -10,6 +10,7 @@ struct KeptTrack {
   FixedText<50> BackgroundName;
   TrackSettingsRecord TrackSettings;
   TrackRecordsRecord TrackRecords;
+  std::string Origin;
 };
 
 /// Takes the document's track out; what stays has no pieces.

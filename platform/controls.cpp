@@ -106,6 +106,8 @@ void UpDown::UserClicks(bool up) {
   dialogs::Enter(up ? onUpClick : onDownClick);
 }
 
+void UpDown::UserReleases() const { dialogs::Enter(onRelease); }
+
 void PictureArea::UserPresses(int button, int shift, float x, float y) const {
   if (onMouseDown) dialogs::Enter([&] { onMouseDown(button, shift, x, y); });
 }

@@ -141,6 +141,7 @@ class ScrollBar : public Control {
 class UpDown : public Control {
  public:
   std::function<void()> onUpClick, onDownClick;
+  std::function<void()> onRelease;  ///< the user lets go of an arrow, which repeats while held
   int Minimum() const { return minimum_; }
   int Maximum() const { return maximum_; }
   void Range(int minimum, int maximum);
@@ -149,6 +150,7 @@ class UpDown : public Control {
   void Value(double value);
   /// Steps by 1 inside the range, then raises the click, at the limit too.
   void UserClicks(bool up);
+  void UserReleases() const;
 
  private:
   int minimum_ = 0, maximum_ = 0, value_ = 0;
@@ -167,8 +169,9 @@ class PictureArea : public Control {
 
 class MenuItem : public Captioned {
  public:
-  std::string shortcut;    ///< "Ctrl+O", "F2"; empty: none
-  bool checkable = false;  ///< has a place for a check mark
+  std::string shortcut;       ///< "Ctrl+O", "F2"; empty: none
+  std::string otherShortcut;  ///< does the same and is not shown
+  bool checkable = false;     ///< has a place for a check mark
   std::vector<MenuItem*> items;
   std::function<void()> onClick;
   bool Checked() const { return checked_; }

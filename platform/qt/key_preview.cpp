@@ -130,7 +130,7 @@ bool KeyPreview::IsFirstStop(const QWidget& receiver) const {
 QAction* KeyPreview::ItemWith(const QKeySequence& keys) const {
   const auto actions = top_.findChildren<QAction*>();
   const auto found = std::ranges::find_if(actions, [&keys](const QAction* action) {
-    return !keys.isEmpty() && action->isEnabled() && action->shortcut() == keys;
+    return !keys.isEmpty() && action->isEnabled() && action->shortcuts().contains(keys);
   });
   return found != actions.end() ? *found : nullptr;
 }

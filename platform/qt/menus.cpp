@@ -21,7 +21,8 @@ void Mirror(MenuItem& item, QAction* action) {
   // One command per key press, however long the key is held.
   action->setAutoRepeat(false);
   if (!item.shortcut.empty()) {
-    action->setShortcut(QKeySequence(QString::fromStdString(item.shortcut)));
+    action->setShortcuts({QKeySequence(QString::fromStdString(item.shortcut)),
+                          QKeySequence(QString::fromStdString(item.otherShortcut))});
     action->setShortcutContext(Qt::WindowShortcut);
   }
   item.mirror = [&item, guard = QPointer<QAction>(action)] {

@@ -39,8 +39,15 @@ void ArrowButton::paintEvent(QPaintEvent*) {
   DrawChevron(painter, rect(), up_, isEnabled());
 }
 
-UpDownView::UpDownView(QWidget* parent, const std::function<void(bool up)>& onClick)
+void ArrowButton::mouseReleaseEvent(QMouseEvent* event) {
+  QAbstractButton::mouseReleaseEvent(event);
+  if (letGo) letGo();
+}
+
+UpDownView::UpDownView(QWidget* parent, const std::function<void(bool up)>& onClick,
+                       const std::function<void()>& onRelease)
     : QWidget(parent), up_(this, true), down_(this, false) {
+  up_.letGo = down_.letGo = onRelease;
   connect(&up_, &QAbstractButton::clicked, this, [onClick] { onClick(true); });
   connect(&down_, &QAbstractButton::clicked, this, [onClick] { onClick(false); });
 }

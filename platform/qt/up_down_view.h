@@ -13,9 +13,11 @@ class ArrowButton : public QAbstractButton {
   ArrowButton(QWidget* parent, bool up);
   QSize sizeHint() const override;
   bool event(QEvent* event) override;
+  std::function<void()> letGo;  ///< after the last click
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   bool up_;
@@ -23,8 +25,9 @@ class ArrowButton : public QAbstractButton {
 
 class UpDownView : public QWidget {
  public:
-  /// `onClick` gets whether the upper button was clicked.
-  UpDownView(QWidget* parent, const std::function<void(bool up)>& onClick);
+  /// `onClick` gets whether the upper button was clicked; `onRelease` runs when it is let go.
+  UpDownView(QWidget* parent, const std::function<void(bool up)>& onClick,
+             const std::function<void()>& onRelease);
   /// The buttons are called "name_up" and "name_down".
   void Names(const QString& name, const QString& spokenName);
 

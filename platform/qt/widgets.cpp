@@ -122,7 +122,8 @@ QWidget* Build(::ScrollBar& bar, QWidget* parent) {
 }
 
 QWidget* Build(UpDown& upDown, QWidget* parent) {
-  auto* widget = new UpDownView(parent, [&upDown](bool up) { upDown.UserClicks(up); });
+  auto* widget = new UpDownView(
+      parent, [&upDown](bool up) { upDown.UserClicks(up); }, [&upDown] { upDown.UserReleases(); });
   Mirror<UpDown, UpDownView>(upDown, widget, [](const UpDown& from, UpDownView& to) {
     to.Names(QString::fromStdString(from.name), QString::fromStdString(from.accessibleName));
   });

@@ -1,0 +1,157 @@
+// Undo and redo: exact over random sessions, one step per command, nothing past it.
+#include "editor/history/history.h"
+
+#include <cstdlib>
+#include <map>
+#include <random>
+
+#include "editor/selection.h"
+#include "editor/selection_mark.h"
+#include "tests/editor/editor_fixture.h"
+
+namespace {
+
+/// What the next frame would draw of the pieces, all of them unmarked: selecting is no step and
+/// flattens a block's colours, a read brings them back. The spin of stars aside.
+std::vector<std::vector<Vertex>> Pictures() {
+  std::vector<std::vector<Vertex>> pictures;
+  VisitKinds([&pictures](auto kind) {
+    for (auto piece : kind.Pieces()) {
+      std::vector<Vertex> vertices;
+      if constexpr (!std::is_same_v<typename decltype(kind)::Piece, clsStar>) {
+        selection::Unmark(piece);
+        vertices.assign(piece.GeometryVertices().begin(), piece.GeometryVertices().end());
+      }
+      vertices.push_back({static_cast<float>(piece.Xpos()), static_cast<float>(piece.Ypos()),
+                          static_cast<float>(piece.Zpos())});
+      pictures.push_back(std::move(vertices));
+    }
+  });
+  return pictures;
+}
+
+class HistoryTest : public EditorTest {
+ protected:
+  struct State {
+    std::string bytes, backdrop;
+    std::vector<std::vector<Vertex>> pictures;
+    bool operator==(const State&) const = default;
+  };
+  /// A track without blocks has no bytes of its own.
+  State Now() {
+    State state{"", Document.Background.Name(), Pictures()};
+    EXPECT_TRUE(FileIO::LevelBytes(state.bytes).Ok() || Document.BlockCount < 0);
+    return state;
+  }
+  void Press(int16_t key) {
+    c.frmMain.UserPressesKey(key, 0);
+    c.frmMain.UserReleasesKey(key, 0);
+  }
+  void Deselect() {
+    selection::DeselectCurrent();
+    Document.ObjectSelected = false;
+  }
+  static size_t Done() {
+    const history::History& h = history::steps;
+    size_t done = 0;
+    while (h.ToUndo() != nullptr && done < h.StepCount()) ++done, history::steps.Undo();
+    for (size_t i = 0; i < done; ++i) history::steps.Redo();
+    return done;
+  }
+  /// Every command that the window offers in edit mode, by a number.
+  void RandomCommand(std::mt19937& random);
+
+  std::string opened_;
+};
+
+void HistoryTest::RandomCommand(std::mt19937& random) {
+  const auto upTo = [&random](size_t count) { return static_cast<size_t>(random() % count); };
+  switch (upTo(14)) {
+    case 0:
+      return c.mnu_insert.items[upTo(c.mnu_insert.items.size())]->UserClicks();
+    case 1:
+      return c.mnu_edit.items[upTo(c.mnu_edit.items.size())]->UserClicks();
+    case 2: {
+      constexpr int16_t keys[] = {46, 32, 37, 38, 39, 40, 'A', 'Z', 97, 99, 100, 102, 103, 104, 98};
+      return Press(keys[upTo(std::size(keys))]);
+    }
+    case 3: {
+      UpDown* const numbers[] = {&c.UpDown1, &c.UpDown2,      &c.UpDown3,        &c.UpDownX,
+                                 &c.UpDownY, &c.UpDown_speed, &c.UpDown_distance};
+      UpDown& number = *numbers[upTo(std::size(numbers))];
+      for (size_t held = upTo(4) + 1; held > 0; --held) number.UserClicks(random() % 2 == 0);
+      return number.UserReleases();
+    }
+    case 4:
+      return (random() % 2 == 0 ? c.Combo1 : c.Combo2).UserSelects(static_cast<int>(upTo(6)));
+    case 5:
+      return c.File1.UserDoubleClicks(static_cast<int>(upTo(c.File1.Entries().size())));
+    case 6:
+      return c.cmbo_Direction.UserSelects(static_cast<int>(upTo(2)));
+    case 7:
+      return random() % 2 == 0 ? c.Check_Loop.UserClicks() : c.cmd_ramp.UserClicks();
+    case 8:
+      return c.cmd_pause.UserClicks();
+    case 9:
+      return (random() % 2 == 0 ? c.mnu_low : c.mnu_normal).UserClicks();
+    case 10:
+      return c.mnu_background.items[upTo(3)]->UserClicks();
+    case 11:  // select any piece as a click does
+      Deselect();
+      VisitKind(static_cast<int32_t>(upTo(4)), [&](auto kind) {
+        if (kind.Count() < 0) return;
+        Document.ObjectSelected = true;
+        Document.SelectedType = kind.type;
+        Document.SelectedIndex = static_cast<int32_t>(upTo(kind.Pieces().size()));
+      });
+      return selection::ShowProperties();
+    case 12:
+      if (upTo(4) > 0) return c.VScroll1.UserScrolls(static_cast<int>(900 + upTo(100)));
+      if (random() % 2 == 0) return c.mnu_New.UserClicks();
+      boxes.answers = {opened_};
+      return c.mnu_load.UserClicks();
+    default:
+      c.mnu_playmode.UserClicks();
+      for (int frame = 0; frame < 3; ++frame) PassAfter(41);
+      c.mnu_editmode.UserClicks();
+  }
+}
+
+TEST_F(HistoryTest, UndoingAndRedoingEverythingIsExact) {
+  const char* wanted = std::getenv("VORBILAX_HISTORY_SEEDS");
+  const unsigned seeds = wanted != nullptr ? static_cast<unsigned>(std::atoi(wanted)) : 60;
+  c.mnu_MovingPlatform.UserClicks();
+  c.mnu_Ramp.UserClicks();
+  opened_ = SaveSample("other.lvl");
+  for (unsigned seed = 1; seed <= seeds; ++seed) {
+    std::mt19937 random(seed);
+    c.mnu_New.UserClicks();
+    Deselect();
+    history::steps.Reset();
+    const State initial = Now();
+    for (size_t commands = random() % 200 + 1; commands > 0; --commands) {
+      const std::string before = Now().bytes;
+      const size_t steps = history::steps.StepCount();
+      const uint64_t state = history::steps.State();
+      RandomCommand(random);
+      const bool changed = Now().bytes != before;
+      ASSERT_TRUE(!changed || history::steps.State() != state) << "past the history, seed " << seed;
+      ASSERT_TRUE(history::steps.StepCount() <= steps + 1);
+    }
+    Deselect();
+    const State last = Now();
+    const size_t done = Done();
+    EXPECT_EQ(Now().bytes, last.bytes) << seed;
+    for (size_t i = 0; i < done; ++i) c.mnu_undo.UserClicks();
+    EXPECT_FALSE(c.mnu_undo.Enabled());
+    Deselect();
+    ASSERT_EQ(Now().bytes, initial.bytes) << "seed " << seed;
+    ASSERT_EQ(Now().backdrop, initial.backdrop) << "seed " << seed;
+    ASSERT_EQ(Now().pictures, initial.pictures) << "seed " << seed;
+    for (size_t i = 0; i < done; ++i) c.mnu_redo.UserClicks();
+    ASSERT_EQ(Now().bytes, last.bytes) << "seed " << seed;
+    boxes.messages.clear();
+  }
+}
+
+}  // namespace
