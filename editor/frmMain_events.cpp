@@ -1,4 +1,6 @@
 #include "editor/frmMain.h"
+#include "editor/hand/drag.h"
+#include "editor/hand/wheel.h"
 #include "editor/history/history.h"
 #include "editor/history/undo_redo.h"
 #include "editor/insert.h"
@@ -74,6 +76,9 @@ void frmMain::ConnectEvents() {
   c.frmMain.onKeyUp = [this](int16_t key, int) { Form_KeyUp(key); };
   c.VScroll1.onChange = [this] { VScroll1_Change(); };
   c.viewport.onMouseDown = picking::MouseDown;
+  c.viewport.onMouseDrag = drag::Move;
+  c.viewport.onMouseUp = drag::Release;
+  c.viewport.onWheel = wheel::Turn;
   panel::ConnectEvents();
   ConnectFileAndModeItems();
   ConnectEditItems();

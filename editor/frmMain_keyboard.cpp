@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "editor/frmMain.h"
+#include "editor/hand/drag.h"
 #include "editor/history/history.h"
 #include "editor/panel.h"
 #include "editor/selection.h"
@@ -14,6 +15,7 @@ using Command = void (*)(frmMain&);
 /// Virtual-key codes.
 enum Key : int16_t {
   kEnter = 13,
+  kEscape = 27,
   kSpace = 32,
   kLeft = 37,
   kUp = 38,
@@ -29,7 +31,6 @@ enum Key : int16_t {
   kPeriod = 190
 };
 
-constexpr history::Gesture kKeyGesture = 1;
 constexpr int kNoModifier = 0;
 constexpr int kCtrl = 2;
 
@@ -105,9 +106,14 @@ const std::map<int16_t, Command> kPlainCommands = {
     {kEnter, [](frmMain& form) { selection::RetextureSelection(form.controls.File1.FileName()); }},
 };
 
+/// What this key repeats while it is held.
+history::Gesture GestureOf(int16_t key) { return history::Gesture{1} + static_cast<uint16_t>(key); }
+
 void Run(const std::map<int16_t, Command>& commands, int16_t key, frmMain& form) {
   const auto found = commands.find(key);
-  if (found != commands.end()) found->second(form);
+  if (found == commands.end()) return;
+  history::steps.Continue(GestureOf(key));
+  found->second(form);
 }
 
 }  // namespace
@@ -119,8 +125,7 @@ void frmMain::Form_KeyDown(int16_t& KeyCode, int Shift) {
   // A held key must not pile up blocks on one spot.
   const bool heldSpace = key == kSpace && std::exchange(SpaceHeld_, true);
   if (Document.EditorMode != EditMode || heldSpace) return;
-  // What a held key repeats is one step.
-  history::steps.Continue(kKeyGesture + static_cast<history::Gesture>(key));
+  if (key == kEscape && drag::Cancel()) return;
   if (Shift == kCtrl) {
     if (std::exchange(KeyReleased_, false)) Run(kCtrlCommands, key, *this);
   } else if (Shift == kNoModifier && key == kF5) {
@@ -132,6 +137,10 @@ void frmMain::Form_KeyDown(int16_t& KeyCode, int Shift) {
 
 void frmMain::Form_KeyUp(int16_t KeyCode) {
   KeyReleased_ = true;
-  history::steps.EndGesture();
   if (KeyCode == kSpace || KeyCode == 0) SpaceHeld_ = false;
+  if (KeyCode == 0) {
+    history::steps.EndGesture();
+  } else {
+    history::steps.EndGesture(GestureOf(KeyCode));
+  }
 }

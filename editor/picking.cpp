@@ -1,6 +1,8 @@
 #include "editor/picking.h"
 
+#include "editor/hand/drag.h"
 #include "editor/main_controls.h"
+#include "editor/pick_ray.h"
 #include "editor/selection_state.h"
 #include "level/maths.h"
 #include "platform/dialogs.h"
@@ -10,27 +12,13 @@
 namespace picking {
 namespace {
 
-constexpr float kNearDistance = 1.0F;
-constexpr float kFarDistance = 100.0F;
-constexpr int kRightButton = 2;
+constexpr int kLeftButton = 1, kRightButton = 2;
 constexpr int16_t kTop = 3;
-
-struct Ray {
-  Vector3 start, direction;
-};
-
-Ray RayThrough(float x, float y) {
-  const PictureArea& viewport = Controls().viewport;
-  Vector3 nearPoint, farPoint;
-  maths::GetPickRay(x, y, DirectX::kFieldOfView, viewport.ScaleWidth(), viewport.ScaleHeight(),
-                    nearPoint, farPoint, kNearDistance, kFarDistance);
-  return {nearPoint, d3dx::Subtract(farPoint, nearPoint)};
-}
 
 /// The nearest face so far.
 class NearestFace {
  public:
-  explicit NearestFace(const Ray& ray) : ray_(ray) {}
+  explicit NearestFace(const PickRay& ray) : ray_(ray) {}
 
   void Test(const CollisionPlane& plane, const std::array<Vector3, 4>& c, int32_t type,
             size_t index, int16_t planeNumber) {
@@ -45,11 +33,14 @@ class NearestFace {
     // Whole units: of faces whose distances round alike the first one tested wins.
     best_ = ToLong(distance);
     found_ = true;
+    hit_ = hit;
     type_ = type;
     index_ = static_cast<int32_t>(index);
     plane_ = planeNumber;
   }
 
+  /// The point of the found face under the mouse.
+  const Vector3& Hit() const { return hit_; }
   /// Makes the found face the selection; false when there is none.
   bool Select() const {
     if (!found_) return false;
@@ -61,7 +52,8 @@ class NearestFace {
   }
 
  private:
-  Ray ray_;
+  PickRay ray_;
+  Vector3 hit_;
   int32_t best_ = 100;
   bool found_ = false;
   int32_t type_ = 0, index_ = 0, plane_ = 0;
@@ -80,7 +72,7 @@ void TestFaces(NearestFace& nearest, Kind kind) {
   }
 }
 
-NearestFace FindFace(const Ray& ray) {
+NearestFace FindFace(const PickRay& ray) {
   NearestFace nearest(ray);
   VisitKinds([&nearest](auto kind) { TestFaces(nearest, kind); });
   return nearest;
@@ -121,9 +113,14 @@ void RightClick(clsStar&, bool, const std::string&) {}
 void MouseDown(int button, int shift, float x, float y) {
   selection::DeselectCurrent();
   Document.ObjectSelected = false;
-  const bool found = FindFace(RayThrough(x, y)).Select();
+  drag::Release();
+  const NearestFace nearest = FindFace(RayThrough(x, y));
+  const bool found = nearest.Select();
   if (found) Controls().cmd_ramp.Enabled(Document.SelectedType == TypeRamp);
   selection::ShowProperties();
+  if (found && button == kLeftButton && Document.EditorMode == EditMode) {
+    drag::Press(nearest.Hit(), x, y);
+  }
   if (!found || button != kRightButton) return;
   const std::string name = Controls().File1.FileName();
   selection::ChangeSelected("Paint", [&](auto& piece) { RightClick(piece, shift != 0, name); });

@@ -112,6 +112,21 @@ void PictureArea::UserPresses(int button, int shift, float x, float y) const {
   if (onMouseDown) dialogs::Enter([&] { onMouseDown(button, shift, x, y); });
 }
 
+void PictureArea::Pointer(PointerShape shape) {
+  pointer_ = shape;
+  Changed();
+}
+
+void PictureArea::UserDrags(int shift, float x, float y) const {
+  if (onMouseDrag) dialogs::Enter([&] { onMouseDrag(shift, x, y); });
+}
+
+void PictureArea::UserReleases() const { dialogs::Enter(onMouseUp); }
+
+void PictureArea::UserTurnsWheel(double notches) const {
+  if (onWheel) dialogs::Enter([&] { onWheel(notches); });
+}
+
 void MenuItem::Checked(bool checked) {
   checked_ = checked;
   Changed();

@@ -156,15 +156,31 @@ class UpDown : public Control {
   int minimum_ = 0, maximum_ = 0, value_ = 0;
 };
 
+enum class PointerShape : uint8_t { Arrow, Drag };
+
 /// The picture that the device draws into.
 class PictureArea : public Control {
  public:
   /// button: 1 left, 2 right, 4 middle; shift: mask of 1 Shift, 2 Ctrl, 4 Alt.
   std::function<void(int button, int shift, float x, float y)> onMouseDown;
+  /// The mouse moves while the left button is held; it was let go.
+  std::function<void(int shift, float x, float y)> onMouseDrag;
+  std::function<void()> onMouseUp;
+  /// Notches of the wheel, away from the user above 0; touch pads turn it by parts of one.
+  std::function<void(double notches)> onWheel;
   std::string picture;  ///< path of the picture shown before the device has drawn; may be empty
   int ScaleWidth() const { return place.width; }
   int ScaleHeight() const { return place.height; }
+  /// What the mouse pointer looks like over the picture.
+  PointerShape Pointer() const { return pointer_; }
+  void Pointer(PointerShape shape);
   void UserPresses(int button, int shift, float x, float y) const;
+  void UserDrags(int shift, float x, float y) const;
+  void UserReleases() const;
+  void UserTurnsWheel(double notches) const;
+
+ private:
+  PointerShape pointer_ = PointerShape::Arrow;
 };
 
 class MenuItem : public Captioned {

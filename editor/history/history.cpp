@@ -102,14 +102,11 @@ void History::Continue(Gesture gesture) {
   Changed();
 }
 
-void History::CancelGesture() {
-  if (gestureHasStep_) {
-    gestureHasStep_ = false;
-    Undo();
-    DropRedo();
-    Changed();
-  }
-  gesture_ = kNoGesture;
+void History::CancelGesture(Gesture gesture) {
+  if (gesture != gesture_ || !std::exchange(gestureHasStep_, false)) return;
+  Undo();
+  DropRedo();
+  Changed();
 }
 
 void History::Undo() {

@@ -67,10 +67,13 @@ class History {
 
   /// The gesture that the commands from now on belong to.
   void Continue(Gesture gesture);
-  /// What was held has been let go.
+  /// What was held has been let go: this, or whatever it is.
+  void EndGesture(Gesture gesture) {
+    if (gesture == gesture_) EndGesture();
+  }
   void EndGesture() { Continue(kNoGesture); }
-  /// Takes back what the present gesture has done.
-  void CancelGesture();
+  /// Takes back what this gesture has done, if it is the present one.
+  void CancelGesture(Gesture gesture);
 
   /// The step that Undo or Redo would take; null when there is none.
   const Step* ToUndo() const { return done_ > 0 ? &steps_[done_ - 1] : nullptr; }

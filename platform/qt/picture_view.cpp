@@ -83,6 +83,23 @@ void PictureView::mousePressEvent(QMouseEvent* event) {
                     static_cast<float>(at.y()));
 }
 
+void PictureView::mouseMoveEvent(QMouseEvent* event) {
+  if (!event->buttons().testFlag(Qt::LeftButton)) return;
+  const QPointF at = event->position();
+  area_.UserDrags(ShiftMask(event->modifiers()), static_cast<float>(at.x()),
+                  static_cast<float>(at.y()));
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) area_.UserReleases();
+}
+
+void PictureView::wheelEvent(QWheelEvent* event) {
+  constexpr double kNotch = 120;  // in eighths of a degree
+  area_.UserTurnsWheel(event->angleDelta().y() / kNotch);
+  event->accept();
+}
+
 // The second click of a quick pair is a press like any other.
 void PictureView::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
 

@@ -132,7 +132,9 @@ QWidget* Build(UpDown& upDown, QWidget* parent) {
 
 QWidget* Build(PictureArea& area, QWidget* parent) {
   auto* widget = new PictureView(parent, area);
-  Mirror<PictureArea, PictureView>(area, widget, [](const PictureArea&, PictureView&) {});
+  Mirror<PictureArea, PictureView>(area, widget, [](const PictureArea& from, PictureView& to) {
+    to.setCursor(from.Pointer() == PointerShape::Drag ? Qt::ClosedHandCursor : Qt::ArrowCursor);
+  });
   return widget;
 }
 

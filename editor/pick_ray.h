@@ -1,0 +1,12 @@
+// The ray from the camera through a point of the viewport.
+#pragma once
+
+#include "platform/values.h"
+
+/// From one unit in front of the eye to a hundred: `start` and the way to the other end.
+struct PickRay {
+  Vector3 start, direction;
+};
+
+/// (x, y) in the viewport's pixels.
+PickRay RayThrough(float x, float y);
