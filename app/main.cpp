@@ -5,6 +5,7 @@
 #include "level/globals.h"
 #include "platform/paths.h"
 #include "platform/qt/application.h"
+#include "platform/qt/end_signals.h"
 
 int main(int argc, char** argv) {
   // A limit on the size of files must fail the write, not end the program.
@@ -20,6 +21,7 @@ int main(int argc, char** argv) {
   frmMain form({clock, application.Pump(), application.Desktop()});
   application.Build(form.controls.frmMain);
   application.Build(form.about.window);
+  const qt::EndSignals endSignals([&form] { form.Terminate(); });
   const bool ran = form.Form_Load();
   dialogs::Use(nullptr);
   return ran ? 0 : 1;

@@ -26,7 +26,9 @@ double Milliseconds(int64_t counts, int64_t frequency) {
 
 }  // namespace
 
-frmMain::frmMain(const Services& services) : services_(services) {
+frmMain::frmMain(const Services& services)
+    : services_(services),
+      copies_(services.clock, [this](std::string& bytes) { return EditedTrack(bytes); }) {
   about.window.owner = &controls.frmMain;
   ticks::Use(&services_.clock);
   ConnectEvents();
@@ -104,6 +106,7 @@ void frmMain::Frame() {
       dialogs::ShowMessage(lastFrameFailure_);
     }
   }
+  copies_.Tick();
   services_.pump.Pump(0);
   NowCount_ = services_.clock.Counter();
 }
@@ -134,11 +137,18 @@ void frmMain::EndAfterFailedStart() {
 }
 
 void frmMain::Shutdown() {
+  if (Running_) copies_.CopyNow();
   Running_ = false;
   // Keys and clicks may be waiting behind this one.
   dialogs::CloseDoor();
   about.window.Unload();
   controls.frmMain.Unload();
+}
+
+void frmMain::Terminate() {
+  if (Running_) copies_.CopyQuietly();
+  Running_ = false;
+  Shutdown();
 }
 
 void frmMain::ReleaseDevices() {

@@ -6,6 +6,7 @@
 
 #include "editor/frmAbout.h"
 #include "editor/main_controls.h"
+#include "editor/safety/safety_copies.h"
 #include "editor/temporary_track.h"
 #include "platform/clock.h"
 #include "platform/shell.h"
@@ -32,6 +33,8 @@ class frmMain {
   /// then one pump of window messages.
   void Pass();
   bool IsRunning() const { return Running_; }
+  /// The system wants the program to end: nothing is asked, nothing is lost.
+  void Terminate();
 
   /// Replaces the track by a new one of a single selected block.
   void NewTrack();
@@ -71,6 +74,8 @@ class frmMain {
   void CheckGravity(bool normal);
   void VScroll1_Change();
   void TrackReplaced();
+  FileIO::Result EditedTrack(std::string& bytes) const;
+  void NoteSaved(FileIO::Outcome outcome);
   void mnu_Shortcut_Click();
 
   // frmMain_modes.cpp
@@ -84,6 +89,7 @@ class frmMain {
 
   Services services_;
   TemporaryTrack temporaryTrack_;
+  safety::SafetyCopies copies_;
   bool Running_ = false;
   bool KeyReleased_ = false;  ///< a key came up since the last command that runs once per press
   bool SpaceHeld_ = false;

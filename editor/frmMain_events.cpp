@@ -62,11 +62,6 @@ void mnu_Paste_Click() {
   }
 }
 
-/// After what makes the track equal to its file.
-void NoteSaved(FileIO::Outcome outcome) {
-  if (outcome == FileIO::Outcome::Done) history::steps.MarkSaved();
-}
-
 }  // namespace
 
 void frmMain::ConnectEvents() {
@@ -88,10 +83,13 @@ void frmMain::ConnectEvents() {
 
 void frmMain::ConnectFileAndModeItems() {
   MainControls& c = controls;
-  c.mnu_New.onClick = [this] { NewTrack(); };
+  c.mnu_New.onClick = [this] {
+    copies_.CopyNow();
+    NewTrack();
+  };
   c.mnu_load.onClick = [this] { NoteSaved(mnu_load_Click()); };
-  c.mnu_save.onClick = [] { NoteSaved(FileIO::SaveTrack()); };
-  c.mnu_saveAS.onClick = [] { NoteSaved(FileIO::SaveTrackDialog()); };
+  c.mnu_save.onClick = [this] { NoteSaved(FileIO::SaveTrack()); };
+  c.mnu_saveAS.onClick = [this] { NoteSaved(FileIO::SaveTrackDialog()); };
   c.mnu_Quit.onClick = [this] { Shutdown(); };
   c.mnu_playmode.onClick = [this] { mnu_playmode_Click(); };
   c.mnu_editmode.onClick = [this] { mnu_editmode_Click(); };

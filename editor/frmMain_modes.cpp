@@ -8,6 +8,7 @@
 
 void frmMain::mnu_playmode_Click() {
   if (Document.EditorMode != EditMode) return;
+  copies_.CopyNow();
   // What is kept aside has no mark, should it come back.
   selection::DeselectCurrent();
   const FileIO::Result result = temporaryTrack_.Enter();

@@ -2,6 +2,7 @@
 
 #include "editor/frmMain.h"
 #include "editor/history/history.h"
+#include "editor/safety/copy_files.h"
 #include "editor/selection.h"
 #include "level/backdrop.h"
 #include "level/globals.h"
@@ -63,7 +64,22 @@ void frmMain::NewTrack() {
   if (Document.EditorMode == EditMode && !isNew) history::steps.Replaced(std::move(replaced));
 }
 
+FileIO::Result frmMain::EditedTrack(std::string& bytes) const {
+  if (Document.EditorMode == EditMode) return FileIO::LevelBytes(bytes);
+  bytes = temporaryTrack_.Bytes();
+  return {};
+}
+
+void frmMain::NoteSaved(FileIO::Outcome outcome) {
+  if (outcome != FileIO::Outcome::Done) return;
+  history::steps.MarkSaved();
+  copies_.Remember(Document.Origin);
+  // A safety copy is opened to be saved under a name of its own.
+  if (safety::IsCopy(Document.CurrentFileName)) Document.CurrentFileName.clear();
+}
+
 FileIO::Outcome frmMain::mnu_load_Click() {
+  copies_.CopyNow();
   const history::Command command("Open Track");
   const bool played = Document.EditorMode == PlayMode;
   KeptTrack replaced;

@@ -68,6 +68,7 @@ Outcome ReportOutcome(const Result& result) {
 }
 
 Outcome SaveTo(const std::string& path) {
+  if (BeforeSave) BeforeSave(path);
   const Outcome outcome = ReportOutcome(WriteLevel(path));
   if (outcome == Outcome::Done) Document.Origin = path;
   return outcome;

@@ -24,6 +24,9 @@ struct Result {
 /// Runs after every completed read, when the new track stands in the document.
 inline std::function<void()> TrackReplaced;
 
+/// Runs before a save command writes to this path.
+inline std::function<void(const std::string& path)> BeforeSave;
+
 inline constexpr const char* kOldVersionText =
     "This track is an old version: When you save it will be converted";
 inline constexpr const char* kNoBlocksText = "A track needs at least one block.";

@@ -21,9 +21,9 @@ struct Place {
 
 /// One press of the button.
 struct Hold {
-  Vector3 anchor;     ///< the point that was hit; it stays under the pointer
-  float x, y;         ///< of the press
-  Place base;         ///< where the piece was when the anchor was taken
+  Vector3 anchor;        ///< the point that was hit; it stays under the pointer
+  float x, y;            ///< of the press
+  Place base;            ///< where the piece was when the anchor was taken
   bool upright = false;  ///< it moves up and down
   bool moving = false;   ///< the pointer has left the slack
 };
@@ -45,8 +45,8 @@ Place PlaceOfPiece() {
 std::optional<Vector3> Under(float x, float y) {
   const PickRay ray = RayThrough(x, y);
   const double along = hold->upright ? ray.direction.z : ray.direction.y;
-  const double way = hold->upright ? double{hold->anchor.z} - ray.start.z
-                                   : double{hold->anchor.y} - ray.start.y;
+  const double way =
+      hold->upright ? double{hold->anchor.z} - ray.start.z : double{hold->anchor.y} - ray.start.y;
   // Five lengths of the ray are more than is ever seen; beyond lies the horizon.
   if (along == 0 || way / along < 0 || way / along > 5) return std::nullopt;
   const double t = way / along;
@@ -91,9 +91,7 @@ void Follow(const Vector3& point) {
 
 }  // namespace
 
-void Press(const Vector3& hit, float x, float y) {
-  hold = Hold{hit, x, y, PlaceOfPiece()};
-}
+void Press(const Vector3& hit, float x, float y) { hold = Hold{hit, x, y, PlaceOfPiece()}; }
 
 void Move(int shift, float x, float y) {
   constexpr int kShift = 1;

@@ -20,8 +20,8 @@ void Turn(double notches) {
   const double units = rest + notches * kUnitsPerNotch;
   rest = units - std::trunc(units);
   ScrollBar& bar = Controls().VScroll1;
-  bar.Value(std::clamp(bar.Value() - static_cast<int>(std::trunc(units)), bar.Minimum(),
-                       bar.Maximum()));
+  bar.Value(
+      std::clamp(bar.Value() - static_cast<int>(std::trunc(units)), bar.Minimum(), bar.Maximum()));
 }
 
 }  // namespace wheel

@@ -3,8 +3,8 @@
 
 namespace wheel {
 
-/// Scrolls the camera along the track in edit mode, five units a notch, away from the user forwards;
-/// parts of a notch add up. Stays inside the scroll bar's range.
+/// Scrolls the camera along the track in edit mode, five units a notch, away from the user
+/// forwards; parts of a notch add up. Stays inside the scroll bar's range.
 void Turn(double notches);
 
 }  // namespace wheel
