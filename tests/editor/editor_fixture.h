@@ -44,14 +44,15 @@ std::string Looks(const Piece& piece) {
   return said;
 }
 
-/// Of a platform its place for good, not where it is on its way.
+/// Of a platform on its way also where it starts.
 template <typename Piece>
 std::string PlaceOf(const Piece& p) {
+  const std::string place = Words(p.Xpos(), p.Ypos(), p.Zpos());
   if constexpr (requires { p.GetInitalXpos(); }) {
-    return Words(p.GetInitalXpos(), p.GetInitalYpos(), p.GetInitalZpos());
-  } else {
-    return Words(p.Xpos(), p.Ypos(), p.Zpos());
+    const std::string start = Words(p.GetInitalXpos(), p.GetInitalYpos(), p.GetInitalZpos());
+    if (start != place) return place + " from " + start;
   }
+  return place;
 }
 
 class EditorTest : public NullEditorTest {

@@ -81,7 +81,7 @@ TEST_F(SelectionTest, SizesAndPaintFollowTheKind) {
       selection::ResizeSelection(width, height, depth);  // 0 leaves a size alone
     EXPECT_EQ(SelectedLooks().starts_with("6 5 7 "), row.sized);
     EXPECT_EQ(Marked(), mark);
-    c.Combo1.UserSelects(0);
+    for (const int stretch : {2, 0}) c.Combo1.UserSelects(stretch);
     c.Combo2.UserSelects(3);
     const bool stretched = SelectedLooks().find("stretch 0 3") != std::string::npos;
     EXPECT_EQ(stretched, &row.item == &c.mnu_block || &row.item == &c.mnu_MovingPlatform);
