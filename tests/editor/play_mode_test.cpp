@@ -2,7 +2,6 @@
 
 #include "play/CollisionDetection.h"
 #include "play/clsPlayer.h"
-#include "render/device/clsParticles.h"
 #include "tests/editor/editor_fixture.h"
 
 namespace {
@@ -175,19 +174,6 @@ TEST_F(PlayModeTest, NothingOfPlayNorOfALostFileReachesTheTrack) {
   EXPECT_EQ(Document.Clipboard.ClipType, TypeStar);
   EXPECT_EQ(Document.Blocks.size(), keptAlive);
   EXPECT_TRUE(boxes.messages.empty());
-}
-
-TEST_F(PlayModeTest, StarsBurstAndStayCollectedUntilTheRunEnds) {
-  c.mnu_Star.UserClicks();
-  c.mnu_playmode.UserClicks();
-  Frames(30);
-  EXPECT_TRUE(Document.Stars[0].visible()) << "the car stands at its front edge";
-  Hold(scancode::kUp);
-  Frames(3);
-  EXPECT_FALSE(Document.Stars[0].visible());
-  EXPECT_EQ(Particles.ParticleCount(), 30);
-  c.mnu_editmode.UserClicks();
-  EXPECT_TRUE(Document.Stars[0].visible());
 }
 
 }  // namespace
