@@ -51,25 +51,29 @@ TEST_F(PanelTest, UpDownsMoveAndResize) {
   EXPECT_EQ(c.txt_width.Text(), "3") << "just a number";
 }
 
-TEST_F(PanelTest, PlatformMotionNeedsAPause) {
+TEST_F(PanelTest, PlatformsChangeOnlyWhilePaused) {
   c.mnu_MovingPlatform.UserClicks();
   const auto change = [&] {
-    c.UpDown_speed.UserClicks(true);
+    for (UpDown* upDown : {&c.UpDownX, &c.UpDown3, &c.UpDown_speed}) upDown->UserClicks(true);
     c.UpDown_distance.UserClicks(false);
     c.Check_Loop.UserClicks();
   };
   change();
   c.cmbo_Direction.UserSelects(0);
-  const std::string changed = "direction 2 speed 6 distance 4 loop 0";
-  EXPECT_TRUE(SelectedLooks().ends_with(changed)) << SelectedLooks();
+  const auto expectChanged = [&] {
+    EXPECT_EQ(SelectedPlace() + " " + SelectedLooks(),
+              "1 0 0 2 0 3 stretch 0 0 kind 0 concrete.bmp/concrete.bmp/concrete.bmp/concrete.bmp "
+              "direction 2 speed 6 distance 4 loop 0");
+  };
+  expectChanged();
   c.cmd_pause.UserClicks();
   EXPECT_EQ(Words(c.cmd_pause.Caption(), Document.PlatformsPaused), "Pause Platforms 0");
   change();
-  EXPECT_EQ(boxes.messages, Texts(2, selection::kPauseFirstText)) << "the check box says nothing";
-  EXPECT_TRUE(SelectedLooks().ends_with(changed)) << SelectedLooks();
+  EXPECT_EQ(boxes.messages, Texts(4, selection::kPauseFirstText)) << "the check box says nothing";
+  expectChanged();
   EXPECT_EQ(Words(c.txt_speed.Text(), c.UpDown_speed.Value(), c.UpDown_distance.Value(),
-                  c.Check_Loop.Checked()),
-            "6 6 4 0");
+                  c.Check_Loop.Checked(), c.cmbo_Direction.Enabled()),
+            "6 6 4 0 0");
   // A direction is taken even when the platform is selected no longer, but not from a ghost.
   Document.ObjectSelected = false;
   c.cmbo_Direction.UserSelects(1);
@@ -78,7 +82,7 @@ TEST_F(PanelTest, PlatformMotionNeedsAPause) {
   change();
   c.cmbo_Direction.UserSelects(0);
   EXPECT_EQ(Document.Platforms[0].Mdir(), 3);
-  EXPECT_EQ(boxes.messages.size(), 2U);
+  EXPECT_EQ(boxes.messages.size(), 4U);
 }
 
 TEST_F(PanelTest, PauseStartsTheTravelAnewAsPlayDoes) {

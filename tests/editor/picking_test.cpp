@@ -1,5 +1,6 @@
 #include "editor/picking.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "tests/editor/editor_fixture.h"
@@ -45,20 +46,13 @@ class PickingTest : public EditorTest {
   }
   /// Letters of the selected piece's faces that show the chosen texture.
   std::string PaintedFaces() {
-    std::string letters;
-    const auto look = [&](const std::string& letter, const std::string& texture) {
-      if (texture == c.File1.FileName()) letters += letter;
-    };
-    VisitSelected([&](const auto& piece) {
-      if constexpr (requires { piece.GetTextureA(); }) {
-        look("A", piece.GetTextureA());
-        look("B", piece.GetTextureB());
-      }
-      if constexpr (requires { piece.GetTextureC(); }) {
-        look("C", piece.GetTextureC());
-        look("D", piece.GetTextureD());
-      }
-    });
+    std::string looks = SelectedLooks(), letters;
+    std::ranges::replace(looks, '/', ' ');
+    std::istringstream words(looks);
+    char letter = 'A';
+    for (std::string word; words >> word; letter += word.ends_with(".bmp")) {
+      if (word == c.File1.FileName()) letters += letter;
+    }
     return letters;
   }
   /// Looks at each face of a piece in turn; `painted` has the faces that Shift and the right button
@@ -107,34 +101,28 @@ TEST_F(PickingTest, EveryFaceIsPickedWhereItIsDrawnAndPainted) {
   ExpectEveryFacePicked(c.mnu_Star, {}, {});
 }
 
-TEST_F(PickingTest, NearestFaceWins) {
-  AddBlock(30);
-  AddBlock(10);
-  Click();
-  EXPECT_EQ(
-      Words(Document.ObjectSelected, Document.SelectedIndex, Document.SelectedPlane, Marked()),
-      "1 1 4 0 1;");
-  Click(1, 0, 0, 0);
-  EXPECT_EQ(Words(Document.ObjectSelected, Document.SelectedPlane, Marked()), "0 4 ")
-      << "the plane is kept until the next pick";
-  EXPECT_FALSE(c.Combo1.Enabled());
-}
-
-TEST_F(PickingTest, DistancesAreComparedInWholeUnits) {
-  // They count from one unit in front of the eye: 4.2 is not less than 4, 5.8 is less than 6. The
-  // ray ends at 100.
-  for (const auto& [first, second, found] : {std::tuple{5.4F, 5.2F, 0}, {6.6F, 6.8F, 1}}) {
+TEST_F(PickingTest, NearestFaceWinsByWholeUnitsInsideTheReach) {
+  struct Row {
+    float first, second;
+    std::string found;  ///< whether, the index, the plane
+  };
+  // Distances count from one unit in front of the eye: 4.2 is not less than 4, 5.8 is less than 6.
+  // The ray ends at 100; what was picked last is kept.
+  for (const auto& [first, second, found] : {Row{30, 10, "1 1 4 0 1;"},
+                                             {5.4F, 5.2F, "1 0 4 0 0;"},
+                                             {6.6F, 6.8F, "1 1 4 0 1;"},
+                                             {200, 99.9F, "1 1 4 0 1;"},
+                                             {100.1F, 100.1F, "0 1 4 "}}) {
     Clear();
     AddBlock(first);
     AddBlock(second);
     Click();
-    EXPECT_EQ(Document.SelectedIndex, found);
-  }
-  for (const auto& [depth, found] : {std::pair{99.9F, true}, {100.1F, false}}) {
-    Clear();
-    AddBlock(depth);
-    Click();
-    EXPECT_EQ(Document.ObjectSelected, found) << depth;
+    EXPECT_EQ(
+        Words(Document.ObjectSelected, Document.SelectedIndex, Document.SelectedPlane, Marked()),
+        found);
+    Click(1, 0, 0, 0);
+    EXPECT_FALSE(Document.ObjectSelected || c.Combo1.Enabled());
+    EXPECT_EQ(Marked(), "");
   }
 }
 

@@ -4,18 +4,7 @@
 
 namespace {
 
-class SelectionTest : public EditorTest {
- protected:
-  /// Five platforms at x = 0 .. 4, running.
-  void AddPlatforms() {
-    for (int i = 0; i < 5; ++i) {
-      c.mnu_MovingPlatform.UserClicks();
-      selection::MoveSelection(i, 0, 0);
-    }
-    c.cmd_pause.UserClicks();
-    for (int i = 0; i < 10; ++i) form.MovePlatforms();
-  }
-};
+using SelectionTest = EditorTest;
 
 TEST_F(SelectionTest, EachKindMovesInItsOwnRange) {
   struct Row {
@@ -39,21 +28,6 @@ TEST_F(SelectionTest, EachKindMovesInItsOwnRange) {
   Document.ObjectSelected = false;
   selection::MoveSelection(1, 1, 1);
   EXPECT_EQ(PlaceOf(Document.Stars[0]), "1 0 2501");
-}
-
-TEST_F(SelectionTest, RunningPlatformsRefuse) {
-  AddPlatforms();
-  Select(TypePlatform, 0);
-  const std::string before = SelectedPlace() + SelectedLooks();
-  selection::MoveSelection(1, 0, 0);
-  selection::ResizeSelection(5, 5, 5);
-  EXPECT_EQ(boxes.messages, Texts(2, selection::kPauseFirstText));
-  EXPECT_EQ(SelectedPlace() + SelectedLooks(), before);
-  EXPECT_FALSE(c.cmbo_Direction.Enabled());
-  c.cmd_pause.UserClicks();
-  selection::MoveSelection(1, 2, 3);
-  EXPECT_EQ(SelectedPlace(), "1 2 3");
-  EXPECT_TRUE(c.cmbo_Direction.Enabled());
 }
 
 TEST_F(SelectionTest, SizesAndPaintFollowTheKind) {
@@ -162,7 +136,12 @@ TEST_F(SelectionTest, PasteRoundsSizesShowsTheStretchAndPauses) {
 }
 
 TEST_F(SelectionTest, DeletingInsideTheRowSendsPlatformsToTheirStarts) {
-  AddPlatforms();
+  for (int i = 0; i < 5; ++i) {
+    c.mnu_MovingPlatform.UserClicks();
+    selection::MoveSelection(i, 0, 0);
+  }
+  c.cmd_pause.UserClicks();
+  for (int i = 0; i < 10; ++i) form.MovePlatforms();
   Select(TypePlatform, 2);
   selection::DeleteSelection();
   selection::DeleteSelection();
