@@ -1,142 +1,101 @@
 #include "editor/insert.h"
 
-#include "editor/selection.h"
 #include "tests/editor/editor_fixture.h"
 
 namespace {
 
-using Names = std::array<std::string, 4>;
-
-Names Textures(const BoxObject& box) {
-  return {box.GetTextureA(), box.GetTextureB(), box.GetTextureC(), box.GetTextureD()};
-}
-Names All(const std::string& name) { return {name, name, name, name}; }
-
-class InsertTest : public EditorTest {};
-
-TEST_F(InsertTest, BlocksAtTwoDepths) {
-  struct Expected {
-    MenuItem MainControls::*item;
-    float x, width, height, depth;
-    int top, side;
-    Names textures;
-    uint8_t code;
+TEST_F(EditorTest, EachInsertItemAddsItsMarkedPieceWhereTheCameraLooks) {
+  const auto all = [](std::string name) {
+    return " " + name + ("/" + name + "/" + name + "/" + name);
   };
-  using M = MainControls;
-  const std::vector<Expected> rows = {
-      {&M::mnu_block, 0, 1, 1, 0.9F, 0, 0, All("_default.bmp"), 0},
-      {&M::mnu_BouncePad, -1, 2, 1, 2, 1, 0, All("Blue With Yellow Dot.bmp"), 2},
-      {&M::mnu_building,
-       -1,
-       3,
-       4,
-       4,
-       1,
-       1,
-       {"buildingFront.bmp", "building Side.bmp", "building Side.bmp", "buildingTop.bmp"},
-       10},
-      {&M::mnu_Endlevel, -1, 2, 1, 2, 1, 0, All("_WIN.bmp"), 1},
-      {&M::mnu_fallingBlock, -1, 2, 1, 2, 0, 0, All("red.bmp"), 4},
-      {&M::mnu_ice, -1, 2, 1, 2, 0, 0, All("Ice2.bmp"), 3},
-      {&M::mnu_instantkill, -1, 2, 1, 2, 0, 0, All("Red Cross on Grey.bmp"), 6},
-      {&M::mnu_turbo,
-       -1,
-       2,
-       1,
-       3,
-       1,
-       0,
-       {"buildingTop.bmp", "buildingTop.bmp", "buildingTop.bmp", "AnimationTest_0.bmp"},
-       5}};
+  struct Row {
+    MenuItem& item;
+    std::string leftAndBottom;
+    int ahead;
+    std::string looks;
+  };
+  const Row rows[] = {
+      {c.mnu_block, "0 0", 0, "1 1 0.9 stretch 0 0 kind 0" + all("_default.bmp")},
+      {c.mnu_BouncePad, "-1 0", 0, "2 1 2 stretch 1 0 kind 2" + all("Blue With Yellow Dot.bmp")},
+      {c.mnu_building, "-1 0", 0,
+       "3 4 4 stretch 1 1 kind 10 "
+       "buildingFront.bmp/building Side.bmp/building Side.bmp/buildingTop.bmp"},
+      {c.mnu_Endlevel, "-1 0", 0, "2 1 2 stretch 1 0 kind 1" + all("_WIN.bmp")},
+      {c.mnu_fallingBlock, "-1 0", 0, "2 1 2 stretch 0 0 kind 4" + all("red.bmp")},
+      {c.mnu_ice, "-1 0", 0, "2 1 2 stretch 0 0 kind 3" + all("Ice2.bmp")},
+      {c.mnu_instantkill, "-1 0", 0, "2 1 2 stretch 0 0 kind 6" + all("Red Cross on Grey.bmp")},
+      {c.mnu_turbo, "-1 0", 0,
+       "2 1 3 stretch 1 0 kind 5 buildingTop.bmp/buildingTop.bmp/buildingTop.bmp/"
+       "AnimationTest_0.bmp"},
+      {c.mnu_Ramp, "0 1", 0, "1 1 2 turned 0 _default.bmp/_default.bmp"},
+      {c.mnu_MovingPlatform, "0 0", 0,
+       "2 0 2 stretch 0 0 kind 0" + all("concrete.bmp") + " direction 3 speed 5 distance 5 loop 1"},
+      {c.mnu_Star, "0 1", 1, ""}};
+  std::string last;
   for (const auto& [scroll, depth] : {std::pair{1000, 0}, std::pair{882, 118}}) {
     c.VScroll1.Value(scroll);
-    for (const Expected& row : rows) {
-      (c.*row.item).UserClicks();
-      const clsblock& block = Document.Blocks[static_cast<size_t>(Document.BlockCount)];
-      SCOPED_TRACE((c.*row.item).name);
-      EXPECT_EQ(block.Xpos(), row.x);
-      EXPECT_EQ(block.Ypos(), 0);
-      EXPECT_EQ(block.Zpos(), depth);
-      EXPECT_EQ(block.scaleX(), row.width);
-      EXPECT_EQ(block.scaleY(), row.height);
-      EXPECT_EQ(block.scaleZ(), row.depth);
-      EXPECT_EQ(block.ScaleTextureTop(), row.top);
-      EXPECT_EQ(block.ScaleTextureSide(), row.side);
-      EXPECT_EQ(Textures(block), row.textures);
-      EXPECT_EQ(block.changeactioncode(), row.code);
-      EXPECT_EQ(block.GeometryVertices()[18].colour, 0x888888U) << "selected";
-      EXPECT_EQ(Document.SelectedIndex, Document.BlockCount);
+    for (const Row& row : rows) {
+      SCOPED_TRACE(row.item.name);
+      row.item.UserClicks();
+      EXPECT_EQ(SelectedPlace(), Words(row.leftAndBottom, depth + row.ahead));
+      EXPECT_EQ(SelectedLooks(), row.looks);
+      const std::string own = Words(Document.SelectedType, Document.SelectedIndex) + ";";
+      EXPECT_EQ(Marked(), &row.item == &c.mnu_Star ? "" : own);
+      EXPECT_NE(std::exchange(last, own), own);
+      EXPECT_EQ(c.txt_Z.Text(), std::to_string(depth + row.ahead));
     }
   }
-  EXPECT_EQ(Document.BlockCount, 16);
-  EXPECT_EQ(Document.Blocks[15].GeometryVertices()[18].colour, 0xFFFFFFU) << "no longer selected";
-}
-
-TEST_F(InsertTest, OtherPieces) {
-  c.VScroll1.Value(990);
-  c.mnu_Ramp.UserClicks();
-  const clsRamp& ramp = Document.Ramps[0];
-  EXPECT_EQ(Document.RampCount, 0);
-  EXPECT_EQ(ramp.Xpos(), 0);
-  EXPECT_EQ(ramp.Ypos(), 1);
-  EXPECT_EQ(ramp.Zpos(), 10);
-  EXPECT_EQ(ramp.scaleZ(), 2);
-  EXPECT_EQ(ramp.GetTextureB(), "_default.bmp");
-  EXPECT_EQ(ramp.GeometryVertices()[0].colour, 0x888888U);
-  EXPECT_TRUE(c.cmd_ramp.Enabled());
-  c.mnu_Star.UserClicks();
-  EXPECT_EQ(Document.Stars[0].Ypos(), 1);
-  EXPECT_EQ(Document.Stars[0].Zpos(), 11);
-  EXPECT_EQ(c.txt_Z.Text(), "11");
-  EXPECT_EQ(ramp.GeometryVertices()[0].colour, 0xFFFFFFU);
-}
-
-TEST_F(InsertTest, PlatformEndsUpPausedAndShown) {
-  bool focused = false;
-  c.frmMain.takeFocus = [&] { focused = true; };
-  c.mnu_MovingPlatform.UserClicks();
-  const clsMovingPlatform& platform = Document.Platforms[0];
-  EXPECT_EQ(platform.scaleX(), 2);
-  EXPECT_EQ(platform.scaleZ(), 2);
-  EXPECT_EQ(platform.Mdir(), clsMovingPlatform::Right);
-  EXPECT_TRUE(platform.MloopBack());
-  EXPECT_EQ(platform.Mdist(), 5);
-  EXPECT_EQ(platform.Mspeed(), 5);
-  EXPECT_EQ(Textures(platform), All("concrete.bmp"));
-  EXPECT_TRUE(Document.PlatformsPaused);
-  EXPECT_EQ(c.cmd_pause.Caption(), "UnPause Platforms");
-  EXPECT_TRUE(c.cmbo_Direction.Enabled());
-  EXPECT_TRUE(focused);
-  c.mnu_MovingPlatform.UserClicks();
-  EXPECT_TRUE(Document.PlatformsPaused) << "paused platforms stay paused";
-}
-
-TEST_F(InsertTest, JumpPadLeavesThePanel) {
+  EXPECT_EQ(Counts(), "16 1 1 1");
   c.mnu_Ramp.UserClicks();
   c.VScroll1.Value(900);
   c.mnu_BouncePad.UserClicks();
+  EXPECT_EQ(c.txt_Z.Text(), "118") << "a jump pad leaves the ramp's numbers";
   EXPECT_FALSE(c.cmd_ramp.Enabled());
-  EXPECT_EQ(c.txt_Z.Text(), "0") << "still the ramp's";
-  EXPECT_EQ(Document.SelectedType, TypeBlock);
 }
 
-TEST_F(InsertTest, NothingInPlayModeOrWhenFullOrWithoutPictures) {
+TEST_F(EditorTest, NewPlatformsEndUpPausedWhateverTheButtonSays) {
+  bool focused = false;
+  c.frmMain.takeFocus = [&] { focused = true; };
+  c.mnu_MovingPlatform.UserClicks();
+  EXPECT_TRUE(focused && Document.PlatformsPaused && c.cmbo_Direction.Enabled());
+  c.mnu_copy.UserClicks();
+  for (MenuItem* item : {&c.mnu_MovingPlatform, &c.mnu_Paste}) {
+    c.mnu_playmode.UserClicks();
+    c.mnu_editmode.UserClicks();
+    EXPECT_FALSE(Document.PlatformsPaused);
+    for (int times = 0; times < 2; ++times) {
+      EXPECT_EQ(c.cmd_pause.Caption(), "UnPause Platforms") << "a read leaves it alone";
+      item->UserClicks();
+      EXPECT_TRUE(Document.PlatformsPaused);
+    }
+  }
+  c.mnu_playmode.UserClicks();
+  c.mnu_editmode.UserClicks();
+  Select(TypeBlock, 0);
+  c.mnu_copy.UserClicks();
+  c.mnu_Paste.UserClicks();
+  EXPECT_FALSE(Document.PlatformsPaused) << "no platform is new";
+}
+
+TEST_F(EditorTest, NothingIsInsertedInPlayModeOrWhenFullOrWithoutPictures) {
   c.mnu_playmode.UserClicks();
   for (MenuItem* item : c.mnu_insert.items) item->UserClicks();
-  EXPECT_EQ(Document.BlockCount, 0);
-  EXPECT_EQ(Document.StarCount, -1);
+  EXPECT_EQ(Counts(), "0 -1 -1 -1");
   c.mnu_editmode.UserClicks();
-
   std::filesystem::remove(folder / "textures/buildingTop.bmp");
   c.mnu_building.UserClicks();
-  EXPECT_EQ(Document.BlockCount, 0);
-  ASSERT_EQ(boxes.messages.size(), 1U);
+  EXPECT_EQ(Counts(), "0 -1 -1 -1");
+  EXPECT_EQ(boxes.messages.size(), 1U);
+  Select(TypeBlock, 0);
+  c.mnu_copy.UserClicks();
 
-  Document.Stars.resize(32768);
-  Document.StarCount = 32767;
-  c.mnu_Star.UserClicks();
-  EXPECT_EQ(Document.StarCount, 32767);
-  EXPECT_EQ(boxes.messages.back(), selection::kTrackFullText);
+  VisitKinds([](auto kind) { kind.Count() = kGreatestIndex; });
+  boxes.messages.clear();
+  for (MenuItem* item : c.mnu_insert.items) item->UserClicks();
+  selection::PasteClipboard();
+  EXPECT_EQ(boxes.messages, Texts(12, selection::kTrackFullText));
+  EXPECT_EQ(Counts(), "32767 32767 32767 32767");
+  VisitKinds([](auto kind) { kind.Count() = static_cast<int32_t>(kind.All().size()) - 1; });
 }
 
 }  // namespace

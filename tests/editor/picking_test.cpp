@@ -1,5 +1,6 @@
 #include "editor/picking.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "tests/editor/editor_fixture.h"
@@ -14,7 +15,15 @@ class PickingTest : public EditorTest {
     EditorTest::SetUp();
     DirectX::D3DDevice->SetTransform(Transform::View, d3dx::Identity());
     Clear();
-    UseTexture("a.bmp");
+    const auto& entries = c.File1.Entries();
+    c.File1.ListIndex(static_cast<int>(std::ranges::find(entries, "a.bmp") - entries.begin()));
+  }
+  static void Clear() {
+    VisitKinds([](auto kind) {
+      kind.All().clear();
+      kind.Count() = -1;
+    });
+    Document.ObjectSelected = false;
   }
   /// A block whose front face is at depth z, around the ray through the centre.
   clsblock& AddBlock(float z, uint8_t code = 0) {
@@ -22,209 +31,139 @@ class PickingTest : public EditorTest {
     clsblock& block = Document.Blocks.emplace_back();
     block.create(-1, -1, z, 2, 2, 2);
     block.changeactioncode(code);
-    for (const char* face : {"A", "B", "C", "D"})
-      block.Texture("_default.bmp", face, Document.TextureDir);
     return block;
+  }
+  /// A piece that was resized, turned and moved since it was made; its own planes may lag behind.
+  void Insert(MenuItem& item, const std::array<int, 3>& by, const std::array<int, 3>& size,
+              int turns = 0) {
+    item.UserClicks();
+    selection::ResizeSelection(size[0], size[1], size[2]);
+    for (int turn = 0; turn < turns; ++turn) c.cmd_ramp.UserClicks();
+    selection::MoveSelection(by[0], by[1], by[2]);
   }
   void Click(int button = 1, int shift = 0, float x = 300, float y = 228) {
     c.viewport.UserPresses(button, shift, x, y);
   }
-  void LookAt(const Vector3& point, const Vector3& normal) {
-    const Vector3 eye{point.x + 8 * normal.x, point.y + 8 * normal.y, point.z + 8 * normal.z};
-    const Vector3 up = std::abs(normal.y) > 0.9F ? Vector3{0, 0, 1} : Vector3{0, 1, 0};
-    DirectX::D3DDevice->SetTransform(Transform::View, d3dx::LookAtLH(eye, point, up));
-  }
-  void Clear() {
-    Document.BlockCount = Document.PlatformCount = Document.RampCount = -1;
-    Document.Blocks.clear();
-    Document.Platforms.clear();
-    Document.Ramps.clear();
-    Document.ObjectSelected = false;
-  }
-  static clsMovingPlatform& AddNewPlatform() {
-    Document.PlatformCount = 0;
-    clsMovingPlatform& platform = Document.Platforms.emplace_back();
-    platform.create(0, 0, 0);
-    return platform;
-  }
-  static clsRamp& AddRamp(int rotation) {
-    Document.RampCount = 0;
-    clsRamp& ramp = Document.Ramps.emplace_back();
-    ramp.create(0, 0, 0);
-    for (int i = 0; i < rotation; ++i) ramp.rotate();
-    return ramp;
-  }
-  /// Resizes, then moves: only sizes make new planes.
-  template <typename Object>
-  static Object& Made(Object& object, const Vector3& at, const Vector3& size) {
-    object.scaleX(static_cast<decltype(object.scaleX())>(size.x));
-    object.scaleY(static_cast<decltype(object.scaleY())>(size.y));
-    object.scaleZ(static_cast<decltype(object.scaleZ())>(size.z));
-    object.Xpos(static_cast<decltype(object.Xpos())>(at.x));
-    object.Ypos(static_cast<decltype(object.Ypos())>(at.y));
-    object.Zpos(static_cast<decltype(object.Zpos())>(at.z));
-    return object;
-  }
-  struct Face {
-    int plane;
-    Vector3 middle, normal;
-  };
-  /// Faces 1 to 5 of the piece at its present place.
-  template <typename Object>
-  static std::vector<Face> Faces(const Object& object) {
-    std::vector<Face> faces;
-    for (int16_t number = 1; number <= 5; ++number) {
-      const auto c = object.GetFaceCorners(number);
-      if (c == decltype(c){}) continue;
-      const CollisionPlane plane = object.DrawnPlanes()[static_cast<size_t>(number - 1)];
-      Vector3 middle;
-      for (size_t k = 0; k < 3; ++k) {
-        middle = {middle.x + c[k].x / 3, middle.y + c[k].y / 3, middle.z + c[k].z / 3};
-      }
-      faces.push_back({number, middle, {plane.a, plane.b, plane.c}});
-    }
-    return faces;
-  }
-  template <typename Visit>
-  static void VisitOnlyPiece(Visit visit) {
-    if (Document.BlockCount >= 0) return visit(Document.Blocks[0]);
-    if (Document.PlatformCount >= 0) return visit(Document.Platforms[0]);
-    visit(Document.Ramps[0]);
-  }
-  void PaintAll(const std::string& name) {
-    UseTexture("a.bmp");
-    VisitOnlyPiece([&](auto& piece) {
-      for (const char* face : {"A", "B", "C", "D"}) piece.Texture(name, face, Document.TextureDir);
-    });
-  }
-  /// Letters of the faces that show the chosen texture.
+  /// Letters of the selected piece's faces that show the chosen texture.
   std::string PaintedFaces() {
-    std::string letters;
-    VisitOnlyPiece([&](auto& piece) {
-      if (piece.GetTextureA() == c.File1.FileName()) letters += "A";
-      if (piece.GetTextureB() == c.File1.FileName()) letters += "B";
-      if constexpr (std::is_base_of_v<BoxObject, std::decay_t<decltype(piece)>>) {
-        if (piece.GetTextureC() == c.File1.FileName()) letters += "C";
-        if (piece.GetTextureD() == c.File1.FileName()) letters += "D";
-      }
-    });
+    std::string looks = SelectedLooks(), letters;
+    std::ranges::replace(looks, '/', ' ');
+    std::istringstream words(looks);
+    char letter = 'A';
+    for (std::string word; words >> word; letter += word.ends_with(".bmp")) {
+      if (word == c.File1.FileName()) letters += letter;
+    }
     return letters;
   }
-  void UseTexture(const std::string& name) {
-    const auto& entries = c.File1.Entries();
-    c.File1.ListIndex(static_cast<int>(std::ranges::find(entries, name) - entries.begin()));
+  /// Looks at each face of a piece in turn; `painted` has the faces that Shift and the right button
+  /// paint, by number.
+  void ExpectEveryFacePicked(MenuItem& item, const std::array<int, 3>& size,
+                             const std::array<std::string, 5>& painted, int turns = 0) {
+    Clear();
+    Insert(item, {-7, 20, 30}, size, turns);
+    const int32_t type = Document.SelectedType;
+    const auto pickAll = [&](const auto& piece) {
+      for (int16_t plane = 1; plane <= 5; ++plane) {
+        const auto corners = piece.GetFaceCorners(plane);
+        if (corners == std::decay_t<decltype(corners)>{}) continue;  // a wedge lacks one
+        LookAt(corners, piece.DrawnPlanes()[static_cast<size_t>(plane - 1)]);
+        selection::RetextureSelection("_default.bmp");
+        Click(2, 1);
+        EXPECT_EQ(
+            Words(Document.ObjectSelected, Document.SelectedType, Document.SelectedPlane,
+                  c.cmd_ramp.Enabled(), PaintedFaces()),
+            Words(true, type, plane, type == TypeRamp, painted[static_cast<size_t>(plane - 1)]))
+            << item.name << " turns " << turns << " height " << size[1];
+      }
+    };
+    VisitSelected(pickAll);
+  }
+  static void LookAt(const std::array<Vector3, 4>& corners, const CollisionPlane& plane) {
+    Vector3 middle;
+    for (size_t k = 0; k < 3; ++k) {
+      middle = {middle.x + corners[k].x / 3, middle.y + corners[k].y / 3,
+                middle.z + corners[k].z / 3};
+    }
+    const Vector3 eye{middle.x + 8 * plane.a, middle.y + 8 * plane.b, middle.z + 8 * plane.c};
+    const Vector3 up = std::abs(plane.b) > 0.9F ? Vector3{0, 0, 1} : Vector3{0, 1, 0};
+    DirectX::D3DDevice->SetTransform(Transform::View, d3dx::LookAtLH(eye, middle, up));
   }
 };
 
-TEST_F(PickingTest, NearestFaceWins) {
-  AddBlock(30);
-  AddBlock(10);
-  Click();
-  EXPECT_TRUE(Document.ObjectSelected);
-  EXPECT_EQ(Document.SelectedIndex, 1);
-  EXPECT_EQ(Document.SelectedPlane, 4);
-  EXPECT_EQ(Document.Blocks[1].GeometryVertices()[0].colour, 0x888888U);
-  Click(1, 0, 0, 0);
-  EXPECT_FALSE(Document.ObjectSelected);
-  EXPECT_EQ(Document.Blocks[1].GeometryVertices()[0].colour, 0x9A9A9AU);
-  EXPECT_EQ(Document.SelectedPlane, 4) << "kept until the next pick";
-  EXPECT_FALSE(c.Combo1.Enabled());
-}
-
-TEST_F(PickingTest, DistancesAreComparedInWholeUnits) {
-  // Distances count from one unit in front of the eye: 4.2 and 4.4, then 5.6 and 5.8.
-  AddBlock(5.4F);
-  AddBlock(5.2F);
-  Click();
-  EXPECT_EQ(Document.SelectedIndex, 0) << "4.2 is not less than 4";
-  Clear();
-  AddBlock(6.6F);
-  AddBlock(6.8F);
-  Click();
-  EXPECT_EQ(Document.SelectedIndex, 1) << "5.8 is less than 6";
-}
-
-TEST_F(PickingTest, NothingBeyondAHundredUnits) {
-  AddBlock(102);
-  Click();
-  EXPECT_FALSE(Document.ObjectSelected);
-}
-
 TEST_F(PickingTest, EveryFaceIsPickedWhereItIsDrawnAndPainted) {
-  struct Piece {
-    int32_t type;
-    int rotation;
-  };
-  const Vector3 at{-7, 20, 30};
-  for (const Vector3& size : {Vector3{3, 3, 3}, Vector3{2, 9, 4}, Vector3{4, 4, 9}}) {
-    for (const Piece& piece : {Piece{TypeBlock, 0}, Piece{TypePlatform, 0}, Piece{TypeRamp, 0},
-                               Piece{TypeRamp, 1}, Piece{TypeRamp, 2}, Piece{TypeRamp, 3}}) {
-      // Moved and resized since it was made; its own planes may lag behind.
-      Clear();
-      const auto faces = piece.type == TypeBlock      ? Faces(Made(AddBlock(0), at, size))
-                         : piece.type == TypePlatform ? Faces(Made(AddNewPlatform(), at, size))
-                                                      : Faces(Made(AddRamp(piece.rotation), at, size));
-      for (const auto& [plane, middle, normal] : faces) {
-        SCOPED_TRACE(testing::Message() << "type " << piece.type << " rotation " << piece.rotation
-                                        << " plane " << plane << " height " << size.y);
-        PaintAll("_default.bmp");
-        LookAt(middle, normal);
-        Click(2, 1);
-        ASSERT_TRUE(Document.ObjectSelected);
-        EXPECT_EQ(Document.SelectedType, piece.type);
-        EXPECT_EQ(Document.SelectedPlane, plane);
-        EXPECT_EQ(c.cmd_ramp.Enabled(), piece.type == TypeRamp);
-        const std::string boxes[] = {"B", "C", "D", "A", ""};
-        EXPECT_EQ(PaintedFaces(), piece.type != TypeRamp ? boxes[plane - 1]
-                                  : plane == 3           ? "AB"
-                                                         : "B");
-      }
+  for (const std::array<int, 3>& size : {std::array{3, 3, 3}, {2, 9, 4}, {4, 4, 9}}) {
+    ExpectEveryFacePicked(c.mnu_block, size, {"B", "C", "D", "A", ""});
+    ExpectEveryFacePicked(c.mnu_MovingPlatform, size, {"B", "C", "D", "A", ""});
+    for (const int turns : {0, 1, 2, 3}) {
+      ExpectEveryFacePicked(c.mnu_Ramp, size, {"B", "B", "AB", "B", "B"}, turns);
     }
+  }
+  ExpectEveryFacePicked(c.mnu_Star, {}, {});
+}
+
+TEST_F(PickingTest, NearestFaceWinsByWholeUnitsInsideTheReach) {
+  struct Row {
+    float first, second;
+    std::string found;  ///< whether, the index, the plane
+  };
+  // Distances count from one unit in front of the eye: 4.2 is not less than 4, 5.8 is less than 6.
+  // The ray ends at 100; what was picked last is kept.
+  for (const auto& [first, second, found] : {Row{30, 10, "1 1 4 0 1;"},
+                                             {5.4F, 5.2F, "1 0 4 0 0;"},
+                                             {6.6F, 6.8F, "1 1 4 0 1;"},
+                                             {200, 99.9F, "1 1 4 0 1;"},
+                                             {100.1F, 100.1F, "0 1 4 "}}) {
+    Clear();
+    AddBlock(first);
+    AddBlock(second);
+    Click();
+    EXPECT_EQ(
+        Words(Document.ObjectSelected, Document.SelectedIndex, Document.SelectedPlane, Marked()),
+        found);
+    Click(1, 0, 0, 0);
+    EXPECT_FALSE(Document.ObjectSelected || c.Combo1.Enabled());
+    EXPECT_EQ(Marked(), "");
   }
 }
 
 TEST_F(PickingTest, RightClickTellsKindsAndPaintsWholePieces) {
   AddBlock(10, clsblock::JumpPad);
   Click(2);
-  EXPECT_EQ(boxes.messages, std::vector<std::string>{"2"});
+  EXPECT_EQ(boxes.messages, Texts{"2"});
   Click(2, 1);
-  EXPECT_EQ(PaintedFaces(), "") << "special blocks are not painted";
-  EXPECT_TRUE(Document.ObjectSelected);
+  EXPECT_TRUE(Document.ObjectSelected && PaintedFaces().empty()) << "special blocks";
   Clear();
-  Made(AddNewPlatform(), {-1, 0, 10}, {2, 2, 2});
+  Insert(c.mnu_MovingPlatform, {-1, 0, 10}, {2, 2, 2});
+  Click(1, 1, 300, 220);
+  EXPECT_EQ(PaintedFaces(), "") << "the left button";
   Click(2, 0, 300, 220);
   EXPECT_EQ(PaintedFaces(), "ABCD");
   Clear();
-  Made(AddRamp(2), {-1, 0, 10}, {2, 2, 2});
+  Insert(c.mnu_Ramp, {-1, -1, 10}, {2, 2, 2}, 2);
   Click(2, 0, 300, 220);
   EXPECT_EQ(PaintedFaces(), "AB");
-  EXPECT_EQ(Document.Ramps[0].GeometryVertices()[0].colour, 0xFFFFFFU) << "the mark goes";
-}
-
-TEST_F(PickingTest, OfEqualDistancesTheFirstKindWins) {
-  Document.StarCount = 0;
-  clsStar& star = Document.Stars.emplace_back();
-  star.load(paths::InInstallFolder("\\models\\orb.x"));
-  star.Zpos(10);
-  const auto picked = [&] {
-    Click(1, 0, 300, 220);
-    return Document.SelectedType;
-  };
-  EXPECT_EQ(picked(), TypeStar);
-  Made(AddRamp(2), {-1, -1, 10}, {2, 2, 2});
-  EXPECT_EQ(picked(), TypeRamp);
-  Made(AddNewPlatform(), {-1, -1, 10}, {2, 2, 2});
-  EXPECT_EQ(picked(), TypePlatform);
-  AddBlock(10);
-  EXPECT_EQ(picked(), TypeBlock);
-}
-
-TEST_F(PickingTest, FailedPaintingKeepsTheSelection) {
+  EXPECT_EQ(Marked(), "") << "the mark goes";
+  Clear();
   AddBlock(10);
   std::filesystem::remove(folder / "textures/a.bmp");
   Click(2, 1);
-  EXPECT_TRUE(Document.ObjectSelected);
-  EXPECT_EQ(boxes.messages.size(), 1U);
+  EXPECT_TRUE(Document.ObjectSelected) << "though the painting failed";
+  EXPECT_EQ(boxes.messages.size(), 2U);
+}
+
+TEST_F(PickingTest, OfEqualDistancesTheFirstKindWins) {
+  const auto expectPicked = [&](int32_t type) {
+    Click(1, 0, 300, 220);
+    EXPECT_EQ(Document.SelectedType, type);
+  };
+  Insert(c.mnu_Star, {0, -1, 9}, {});
+  expectPicked(TypeStar);
+  Insert(c.mnu_Ramp, {-1, -1, 10}, {2, 2, 2}, 2);
+  expectPicked(TypeRamp);
+  Insert(c.mnu_MovingPlatform, {-1, 0, 10}, {2, 2, 2});
+  expectPicked(TypePlatform);
+  AddBlock(10);
+  expectPicked(TypeBlock);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include "play/CollisionDetection.h"
 #include "play/clsPlayer.h"
-#include "render/device/clsParticles.h"
 #include "tests/editor/editor_fixture.h"
 
 namespace {
@@ -13,12 +12,48 @@ class PlayModeTest : public EditorTest {
     for (int i = 0; i < count; ++i) PassAfter(41);
   }
   void Hold(uint8_t key, bool held = true) { world->keys[key] = held ? kKeyHeld : 0; }
-  /// Commands of the last frame that draw what no edit frame draws: the car has one subset here.
+  /// Commands of the last frame: the car has one subset here.
   size_t Draws() const { return world->screen.commands.size(); }
+  std::string State() {
+    return Words(Document.EditorMode, Document.ObjectSelected, Document.PlatformsPaused,
+                 DirectX::CameraPosition.z, Checked());
+  }
+  const std::string file_ = folder / "tmp.trk";
 };
 
+TEST_F(PlayModeTest, CommandsLeadThroughTheTemporaryFileAndBack) {
+  AddRunningPlatform();
+  Document.PlatformsPaused = true;
+  const std::string before = Bytes();
+  c.VScroll1.UserScrolls(500);
+  for (int times = 0; times < 2; ++times) {
+    c.mnu_playmode.UserClicks();
+    EXPECT_EQ(State(), "2 0 0 -18 Play Mode!;Background 1;Normal;");
+    EXPECT_EQ(ReadBytes(file_), before) << "the second command does nothing";
+    Document.Blocks[0].Ypos(30);
+  }
+  for (int times = 0; times < 2; ++times) {
+    c.mnu_editmode.UserClicks();
+    EXPECT_EQ(State(), "1 0 0 -18 Edit Mode;Background 1;Normal;");
+    EXPECT_EQ(Bytes(), before);
+    c.VScroll1.UserScrolls(1000);
+  }
+  c.mnu_playmode.UserClicks();
+  Document.Blocks[0].Ypos(30);
+  c.mnu_load.UserClicks();
+  EXPECT_EQ(State(), "1 0 0 -18 Edit Mode;Background 1;Normal;") << "a cancelled Open leaves play";
+  EXPECT_EQ(Document.Blocks[0].Ypos(), 30) << "as play left it";
+
+  std::filesystem::remove(file_);
+  Document.BlockCount = -1;
+  c.mnu_playmode.UserClicks();
+  EXPECT_EQ(Document.EditorMode, EditMode);
+  EXPECT_EQ(boxes.messages, Texts{FileIO::kNoBlocksText});
+  EXPECT_FALSE(std::filesystem::exists(file_));
+}
+
 TEST_F(PlayModeTest, CarFallsOntoTheFirstBlockAndDrives) {
-  PassAfter(41);
+  Frames(1);
   const size_t before = Draws();
   c.mnu_playmode.UserClicks();
   EXPECT_EQ(Player.PosY(), 3.5F);
@@ -42,11 +77,10 @@ TEST_F(PlayModeTest, CarFallsOntoTheFirstBlockAndDrives) {
 }
 
 TEST_F(PlayModeTest, DeathStartsOverWithTheTrackOfTheBeginning) {
-  AddPlatform();
+  AddRunningPlatform();
   const std::string track = Bytes();
   c.mnu_playmode.UserClicks();
-  // The track must come back although its file is gone.
-  std::filesystem::remove(folder / "tmp.trk");
+  std::filesystem::remove(file_);  // the track must come back all the same
   Hold(scancode::kUp);
   int frames = 0;
   while (!Player.DeathStatus() && frames++ < 500) Frames(1);
@@ -60,74 +94,71 @@ TEST_F(PlayModeTest, DeathStartsOverWithTheTrackOfTheBeginning) {
   EXPECT_EQ(DirectX::CameraPosition.z, -18);
   c.mnu_editmode.UserClicks();
   EXPECT_EQ(Bytes(), track);
-  EXPECT_TRUE(boxes.messages.empty());
 }
 
 /// A picture that cannot be read for a moment must not cost the track.
 TEST_F(PlayModeTest, AFailedRestoreGivesTheEditedPiecesBack) {
-  AddPlatform();
+  AddRunningPlatform();
   Document.Blocks[0].Texture("a.bmp", "D", Document.TextureDir);
   c.mnu_low.UserClicks();
   c.mnu_background2.UserClicks();
-  const std::string track = Bytes();
-  const std::string picture = folder / "textures/a.bmp";
-  const auto damage = [&] { WriteBytes(picture, "damaged"); };
-  const auto mend = [&] { WriteBytes(picture, ""); };
-  const auto expectEditedTrack = [&](size_t messages) {
-    EXPECT_EQ(Document.EditorMode, EditMode);
-    EXPECT_EQ(Bytes(), track);
-    EXPECT_EQ(boxes.messages.size(), messages);
-    EXPECT_TRUE(c.mnu_editmode.Checked() && c.mnu_low.Checked() && c.mnu_background2.Checked());
-    EXPECT_EQ(Document.Background.Name(), folder / "backgrounds/bk001.jpg");
-    PassAfter(41);
-  };
+  const std::string track = Bytes(), picture = folder / "textures/a.bmp";
   const auto play = [&] {
+    WriteBytes(picture, "");
     c.mnu_playmode.UserClicks();
     Document.Blocks[0].Ypos(30);
     c.mnu_normal.UserClicks();
     c.mnu_background3.UserClicks();
     Document.Platforms.clear();
     Document.PlatformCount = -1;
+    WriteBytes(picture, "damaged");
   };
-  damage();
+  const auto expectEditedTrack = [&](size_t messages, const std::string& marked) {
+    EXPECT_EQ(Bytes(), track);
+    EXPECT_EQ(boxes.messages.size(), messages);
+    EXPECT_EQ(State().substr(0, 3), marked.empty() ? "1 0" : "1 1");
+    EXPECT_EQ(Marked(), marked);
+    EXPECT_EQ(Checked(), "Edit Mode;Background 2;Low;");
+    EXPECT_EQ(Document.Background.Name(), folder / "backgrounds/bk001.jpg");
+    Frames(1);
+  };
+  WriteBytes(picture, "damaged");
   c.mnu_playmode.UserClicks();
-  EXPECT_TRUE(Document.ObjectSelected) << "play was not entered";
-  EXPECT_EQ(Document.Blocks[0].GeometryVertices()[0].colour, 0x888888U);
-  expectEditedTrack(1);
+  expectEditedTrack(1, "2 0;");
   EXPECT_NE(boxes.messages[0].find("a.bmp"), std::string::npos);
-
-  mend();
   play();
-  damage();
   c.mnu_editmode.UserClicks();
-  EXPECT_FALSE(Document.ObjectSelected);
-  EXPECT_EQ(Document.Blocks[0].GeometryVertices()[0].colour, 0x9A9A9AU) << "without its old mark";
-  expectEditedTrack(2);
-
-  mend();
+  expectEditedTrack(2, "");
   play();
-  damage();
   Player.DeathStatus(true);
   Frames(3);
-  expectEditedTrack(3);
-
+  expectEditedTrack(3, "");
   // A missing picture is read as the default one; the track keeps its name.
-  mend();
   play();
   std::filesystem::remove(picture);
   c.mnu_editmode.UserClicks();
-  expectEditedTrack(3);
+  expectEditedTrack(3, "");
 }
 
-TEST_F(PlayModeTest, NothingOfPlayReachesTheTrack) {
+TEST_F(PlayModeTest, NothingOfPlayNorOfALostFileReachesTheTrack) {
   for (MenuItem* item : c.mnu_insert.items) item->UserClicks();
   c.mnu_copy.UserClicks();
   Document.CurrentFileName = "kept.lvl";
   const std::string track = Bytes();
   const size_t keptAlive = Document.Blocks.size();
+  std::string foreign = track;
+  foreign[128] = 1;
+  const std::vector<std::function<void()>> mishaps = {
+      [] {}, [&] { std::filesystem::remove(file_); },
+      [&] { WriteBytes(file_, track.substr(0, 100)); }, [&] { WriteBytes(file_, foreign); },
+      [&] {
+        std::filesystem::remove(file_);
+        std::filesystem::create_directory(file_);  // where the next round would write
+      }};
   std::mt19937 random(7);
-  for (int round = 0; round < 50; ++round) {
+  for (size_t round = 0; round < 51; ++round) {
     c.mnu_playmode.UserClicks();
+    ASSERT_EQ(Document.EditorMode, PlayMode);
     for (int frame = 0; frame < 20; ++frame) {
       for (const uint8_t key :
            {scancode::kUp, scancode::kDown, scancode::kLeft, scancode::kRight, scancode::kSpace}) {
@@ -135,6 +166,7 @@ TEST_F(PlayModeTest, NothingOfPlayReachesTheTrack) {
       }
       Frames(1);
     }
+    if (round % 10 == 0) mishaps[std::min(round / 10, mishaps.size() - 1)]();
     c.mnu_editmode.UserClicks();
     ASSERT_EQ(Bytes(), track) << round;
   }
@@ -142,19 +174,6 @@ TEST_F(PlayModeTest, NothingOfPlayReachesTheTrack) {
   EXPECT_EQ(Document.Clipboard.ClipType, TypeStar);
   EXPECT_EQ(Document.Blocks.size(), keptAlive);
   EXPECT_TRUE(boxes.messages.empty());
-}
-
-TEST_F(PlayModeTest, StarsBurstAndStayCollectedUntilTheRunEnds) {
-  c.mnu_Star.UserClicks();
-  c.mnu_playmode.UserClicks();
-  Frames(30);
-  EXPECT_TRUE(Document.Stars[0].visible()) << "the car stands at its front edge";
-  Hold(scancode::kUp);
-  Frames(3);
-  EXPECT_FALSE(Document.Stars[0].visible());
-  EXPECT_EQ(Particles.ParticleCount(), 30);
-  c.mnu_editmode.UserClicks();
-  EXPECT_TRUE(Document.Stars[0].visible());
 }
 
 }  // namespace

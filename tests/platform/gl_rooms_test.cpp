@@ -45,19 +45,17 @@ TEST(Frustum, LeavesOutWhatIsBehindBesideAndBeyond) {
 }
 
 /// A frame of one clear and one draw; change it to see what is noticed.
-struct SmallFrame {
-  CommandList list;
+struct SmallFrame : CommandList {
   VertexBufferPtr box = BoxBuffer(1);
   SmallFrame() {
-    Command clear, draw;
-    clear.kind = Command::Kind::Clear;
-    draw.buffer = box.get();
-    draw.vertexCount = 2;
-    list.commands = {clear, draw};
-    list.worlds = {d3dx::Identity()};
-    list.cameras = {DefaultCamera()};
-    list.states = {DeviceStates()};
-    list.resources = {box};
+    commands.resize(2);
+    commands[0].kind = Command::Kind::Clear;
+    commands[1].buffer = box.get();
+    commands[1].vertexCount = 2;
+    worlds = {d3dx::Identity()};
+    cameras = {DefaultCamera()};
+    states = {DeviceStates()};
+    resources = {box};
   }
 };
 
@@ -66,46 +64,45 @@ TEST(FrameMemory, HoldsAFrameThatWasDrawnTwiceAndItsResources) {
   const std::weak_ptr<const VertexBufferObject> box = frame->box;
   gl::FrameMemory memory;
   for (int drawn = 0; drawn < 2; ++drawn) {
-    EXPECT_FALSE(memory.Holds(frame->list));
-    memory.Remember(frame->list);
+    EXPECT_FALSE(memory.Holds(*frame));
+    memory.Remember(*frame);
   }
-  EXPECT_TRUE(memory.Holds(frame->list));
+  EXPECT_TRUE(memory.Holds(*frame));
   frame.reset();
   EXPECT_FALSE(box.expired());
-  EXPECT_TRUE(memory.Holds(SmallFrame().list)) << "the same contents in a new buffer";
+  EXPECT_TRUE(memory.Holds(SmallFrame())) << "the same contents in a new buffer";
   memory.Forget();
-  EXPECT_FALSE(memory.Holds(SmallFrame().list));
-
-  SmallFrame withoutClear;
-  withoutClear.list.commands.erase(withoutClear.list.commands.begin());
-  for (int drawn = 0; drawn < 2; ++drawn) memory.Remember(withoutClear.list);
-  EXPECT_FALSE(memory.Holds(withoutClear.list)) << "it draws over the last";
+  EXPECT_FALSE(memory.Holds(SmallFrame()));
 }
 
 TEST(FrameMemory, NoticesEveryKindOfChange) {
+  using Frame = CommandList&;
   const SmallFrame frame;
-  gl::FrameMemory memory;
-  for (int drawn = 0; drawn < 2; ++drawn) memory.Remember(frame.list);
+  gl::FrameMemory memory, withoutClear;
+  for (int drawn = 0; drawn < 2; ++drawn) memory.Remember(frame);
   const TextureObject texture(Image(1, 1), TextureObject::Format::Colour32);
   const auto other = BoxBuffer(2);
-  const std::vector<std::function<void(CommandList&)>> changes = {
-      [](CommandList& list) { list.commands[0].colour = 1; },
-      [](CommandList& list) { list.commands[0].depth = 0.5F; },
-      [](CommandList& list) { list.commands[1].firstVertex = 1; },
-      [](CommandList& list) { list.commands[1].vertexCount = 1; },
-      [](CommandList& list) { list.commands[1].primitive = Primitive::TriangleStrip; },
-      [&](CommandList& list) { list.commands[1].texture = &texture; },
-      [&](CommandList& list) { list.commands[1].buffer = other.get(); },
-      [](CommandList& list) { list.commands.pop_back(); },
-      [](CommandList& list) { list.worlds[0].m[3][0] = 1; },
-      [](CommandList& list) { list.cameras[0].view.m[3][0] = 1; },
-      [](CommandList& list) { list.states[0].depthTest = true; }};
+  const std::vector<std::function<void(Frame)>> changes = {
+      [](Frame list) { list.commands[0].colour = 1; },
+      [](Frame list) { list.commands[0].depth = 0.5F; },
+      [](Frame list) { list.commands[1].firstVertex = 1; },
+      [](Frame list) { list.commands[1].vertexCount = 1; },
+      [](Frame list) { list.commands[1].primitive = Primitive::TriangleStrip; },
+      [&](Frame list) { list.commands[1].texture = &texture; },
+      [&](Frame list) { list.commands[1].buffer = other.get(); },
+      [](Frame list) { list.commands.pop_back(); },
+      [](Frame list) { list.worlds[0].m[3][0] = 1; },
+      [](Frame list) { list.cameras[0].view.m[3][0] = 1; },
+      [](Frame list) { list.states[0].depthTest = true; }};
   for (size_t i = 0; i < changes.size(); ++i) {
-    CommandList changed = frame.list;
+    CommandList changed = frame;
     changes[i](changed);
-    EXPECT_FALSE(memory.Holds(changed)) << i;
-    EXPECT_TRUE(memory.Holds(frame.list));
+    EXPECT_TRUE(memory.Holds(frame) && !memory.Holds(changed)) << i;
   }
+  CommandList drawnOver = frame;
+  drawnOver.commands.erase(drawnOver.commands.begin());
+  for (int drawn = 0; drawn < 2; ++drawn) withoutClear.Remember(drawnOver);
+  EXPECT_FALSE(withoutClear.Holds(drawnOver)) << "without a clear it draws over the last";
 }
 
 }  // namespace

@@ -2,11 +2,7 @@
 # Builds a track from nothing with keys, mouse and buttons, saves it and compares the bytes.
 source "$(dirname "$0")/lib.sh" "$1"
 
-make_install_folder
-start_window_manager
 start_editor
-eval "$(xdotool getwindowgeometry --shell "$main")"
-menu=$((HEIGHT - 574))
 at() { click_at "$1" $((menu + $2)) "${3:-1}"; }
 panel_at() { at $((8 + $1)) $((464 + $2)); }
 

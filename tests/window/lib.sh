@@ -1,4 +1,5 @@
-# Helpers for tests that drive the real editor with mouse and keyboard. Sourced inside xvfb-run.
+# Helpers for tests that drive the real editor with mouse and keyboard. Sourced inside xvfb-run;
+# makes the install folder and starts the window manager.
 # usage: source lib.sh FOLDER_WITH_PROGRAMS
 set -euo pipefail
 programs=$1
@@ -14,14 +15,9 @@ fail() {
 }
 
 # A private install folder, so that tests may write into it.
-make_install_folder() {
-  mkdir -p "$install/levels"
-  cp "$programs/vorbilax-editor" "$install/"
-  for folder in textures backgrounds models skins misc; do
-    ln -s "$programs/$folder" "$install/$folder"
-  done
-  cp "$programs/readme.txt" "$install/"
-}
+mkdir -p "$install/levels"
+cp "$programs"/{vorbilax-editor,readme.txt} "$install/"
+ln -s "$programs"/{textures,backgrounds,models,skins,misc} "$install/"
 
 wait_for() { # description command...
   local what=$1
@@ -39,11 +35,10 @@ no_window_named() { ! window_named "$1"; }
 window_manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
 
 # A window that is mapped while the manager is still starting may stay hidden.
-start_window_manager() {
-  openbox >/dev/null 2>&1 &
-  wait_for "the window manager" window_manager_runs
-}
+openbox >/dev/null 2>&1 &
+wait_for "the window manager" window_manager_runs
 
+# Waits for the first window; sets main, its X, Y, WIDTH and HEIGHT, and the menu bar's height.
 start_editor() {
   "$install/vorbilax-editor" >"$work/editor.log" 2>&1 &
   editor_pid=$!
@@ -51,6 +46,14 @@ start_editor() {
   main=$(window_named "Vorbilax Level Editor" | head -n 1)
   xdotool windowactivate --sync "$main"
   sleep 0.3
+  eval "$(xdotool getwindowgeometry --shell "$main")"
+  menu=$((HEIGHT - 574))
+}
+
+expect_exit() { # status
+  local status=0
+  wait "$editor_pid" || status=$?
+  [ "$status" -eq "$1" ] || fail "exit status $status: $(cat "$work/editor.log")"
 }
 
 key() {
@@ -76,7 +79,5 @@ answer_file_dialog() {
 quit_editor() {
   xdotool windowactivate --sync "$main"
   key ctrl+q
-  local status=0
-  wait "$editor_pid" || status=$?
-  [ "$status" -eq 0 ] || fail "exit status $status: $(cat "$work/editor.log")"
+  expect_exit 0
 }

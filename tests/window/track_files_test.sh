@@ -2,16 +2,12 @@
 # Opens a shipped track in the real window, looks at it, and saves it under another name.
 source "$(dirname "$0")/lib.sh" "$1"
 
-make_install_folder
 track=$(find "$programs/levels" -name '*.lvl' | sort | head -n 1)
 [ -n "$track" ] || fail "no shipped track"
-start_window_manager
 start_editor
 
-eval "$(xdotool getwindowgeometry --shell "$main")"
 [ "$WIDTH" -eq 800 ] || fail "the window is $WIDTH wide"
 [ "$HEIGHT" -ge 590 ] && [ "$HEIGHT" -le 604 ] || fail "the window is $HEIGHT high"
-menu=$((HEIGHT - 574))
 
 colours_of_viewport() {
   import -window "$main" -crop "590x440+5+$((menu + 5))" "$work/view.png"

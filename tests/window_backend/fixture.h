@@ -1,4 +1,4 @@
-// A window with one control of every kind, shown for real.
+// The editor's own window without its events, shown for real.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QWidget>
 
+#include "editor/main_controls.h"
 #include "platform/qt/application.h"
 
 namespace fixture {
@@ -16,22 +17,6 @@ qt::Application& Toolkit();
 inline void Settle() {
   for (int round = 0; round < 10; ++round) Toolkit().Pump().Pump(0.0);
 }
-
-struct SampleWindow : Window {
-  MenuItem file, open, gravity, normal, low;
-  PictureArea picture;
-  ScrollBar bar;
-  FileList list;
-  Frame frame;
-  Label label;
-  TextBox box;
-  UpDown upDown;
-  DropDown drop;
-  Button button;
-  CheckBox check;
-
-  SampleWindow();
-};
 
 class ShownWindow : public testing::Test {
  protected:
@@ -48,14 +33,17 @@ class ShownWindow : public testing::Test {
   void Press(int key, bool repeated = false) { Send(QEvent::KeyPress, key, {}, repeated); }
   void Release(int key, bool repeated = false) { Send(QEvent::KeyRelease, key, {}, repeated); }
   void Type(int key, Qt::KeyboardModifiers modifiers = {}) {
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
-      Send(type, key, modifiers, false);
+    Send(QEvent::KeyPress, key, modifiers, false);
+    Send(QEvent::KeyRelease, key, modifiers, false);
   }
   void Click(const char* name, QPointF at = {6, 6}, Qt::MouseButton button = Qt::LeftButton,
              Qt::KeyboardModifiers modifiers = {});
 
-  SampleWindow window_;
+  MainControls c;
+  Window& window_ = c.frmMain;
   QWidget* top_ = nullptr;
+  int events_ = 0;
+  const std::function<void()> count_ = [this] { ++events_; };
 };
 
 }  // namespace fixture

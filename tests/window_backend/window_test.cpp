@@ -22,9 +22,8 @@ TEST_F(Windows, FileListsShowPicturesAndMirrorTheSelection) {
   qt::SaveImageFile(Image(8, 8, 0xFFFF0000), path("a.bmp"));
   for (const char* name : {"b.bmp", "c.txt"}) std::ofstream(path(name)) << "damaged";
   qt::SaveImageFile(Image(8, 8, 0xFF00FF00), path("d.bmp"));
-  window_.list.pattern = "*.bmp";
-  window_.list.Folder(folder.path().toStdString());
-  auto& view = Find<QListWidget>("list");
+  c.File1.Folder(folder.path().toStdString());
+  auto& view = Find<QListWidget>("File1");
   ASSERT_EQ(view.count(), 3);
   EXPECT_EQ(view.item(2)->text(), "d.bmp");
   EXPECT_EQ(view.currentRow(), -1);
@@ -37,12 +36,12 @@ TEST_F(Windows, FileListsShowPicturesAndMirrorTheSelection) {
     EXPECT_EQ(shown.pixelColor(inside.toPoint()), colours[row]) << row;
   }
 
-  window_.list.ListIndex(2);
+  c.File1.ListIndex(2);
   EXPECT_EQ(view.currentRow(), 2);
   view.setCurrentRow(1);
-  EXPECT_EQ(window_.list.FileName(), "b.bmp");
+  EXPECT_EQ(c.File1.FileName(), "b.bmp");
   std::string painted;
-  window_.list.onDoubleClick = [&] { painted = window_.list.FileName(); };
+  c.File1.onDoubleClick = [&] { painted = c.File1.FileName(); };
   const QPointF at = view.visualItemRect(view.item(2)).center();
   for (const auto& [button, name] : {std::pair(Qt::RightButton, ""), {Qt::LeftButton, "d.bmp"}}) {
     for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
@@ -62,15 +61,15 @@ TEST_F(Windows, PresentedPictureAppearsInTheWindow) {
   }
   PictureArea elsewhere;
   EXPECT_THROW(adapter->CreateDevice(elsewhere, {}), PlatformError);
-  const auto device = adapter->CreateDevice(window_.picture, {});
+  const auto device = adapter->CreateDevice(c.viewport, {});
   for (const uint32_t colour : {0xFF204060U, 0xFFC08040U}) {
     device->Clear(colour, 1.0F);
     device->BeginScene();
     device->EndScene();
     device->Present();
-    const QImage shown = Find<QWidget>("picture").grab().toImage();
-    EXPECT_EQ(shown.pixelColor(0, 0), QColor::fromRgb(colour));
-    EXPECT_EQ(shown.pixelColor(shown.width() - 1, shown.height() - 1), QColor::fromRgb(colour));
+    const QImage shown = Find<QWidget>("viewport").grab().toImage();
+    for (const QPoint place : {shown.rect().topLeft(), shown.rect().bottomRight()})
+      EXPECT_EQ(shown.pixelColor(place), QColor::fromRgb(colour));
   }
 }
 
@@ -82,7 +81,7 @@ double PumpFor(double milliseconds) {
   return std::chrono::duration<double, std::milli>(Moments::now() - begin).count();
 }
 
-TEST(Pump, WaitsAboutAsLongAsAskedWithoutSpinning) {
+TEST(Pump, WaitsAboutAsLongAsAskedWithoutSpinningAndWakesForAnEvent) {
   EXPECT_LT(PumpFor(0.0), 500.0);
   // Other programs may delay a wait, never shorten every one.
   double longest = 0.0;
@@ -91,9 +90,7 @@ TEST(Pump, WaitsAboutAsLongAsAskedWithoutSpinning) {
   EXPECT_GE(longest, 39.5);
   EXPECT_LT(longest, 2000.0);
   EXPECT_LT(static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC, 0.2);
-}
 
-TEST(Pump, WakesForAnEvent) {
   bool handled = false;
   QTimer::singleShot(20, [&handled] { handled = true; });
   const double waited = PumpFor(5000.0);
