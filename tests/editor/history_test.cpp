@@ -122,7 +122,8 @@ TEST_F(HistoryTest, UndoingAndRedoingEverythingIsExact) {
   const unsigned seeds = wanted != nullptr ? static_cast<unsigned>(std::atoi(wanted)) : 60;
   c.mnu_MovingPlatform.UserClicks();
   c.mnu_Ramp.UserClicks();
-  opened_ = SaveSample("other.lvl");
+  opened_ = folder / "levels/other.lvl";
+  ASSERT_TRUE(FileIO::WriteLevel(opened_).Ok());
   for (unsigned seed = 1; seed <= seeds; ++seed) {
     std::mt19937 random(seed);
     c.mnu_New.UserClicks();
@@ -152,6 +153,93 @@ TEST_F(HistoryTest, UndoingAndRedoingEverythingIsExact) {
     ASSERT_EQ(Now().bytes, last.bytes) << "seed " << seed;
     boxes.messages.clear();
   }
+}
+
+TEST_F(HistoryTest, StepsAreNamedAndWhatIsHeldIsOne) {
+  const auto menu = [&] {
+    return Words(c.mnu_undo.Caption(), c.mnu_undo.Enabled(), c.mnu_redo.Caption(),
+                 c.mnu_redo.Enabled());
+  };
+  EXPECT_EQ(menu(), "Undo 0 Redo 0");
+  EXPECT_FALSE(history::steps.DiffersFromSaved());
+  for (int i = 0; i < 5; ++i) c.frmMain.UserPressesKey(39, 0);
+  c.frmMain.UserPressesKey(38, 0);
+  c.frmMain.UserReleasesKey(38, 0);
+  Press(38);
+  EXPECT_EQ(history::steps.StepCount(), 3U) << "a held key, and two presses of another";
+  for (int i = 0; i < 3; ++i) c.UpDown2.UserClicks(true);
+  c.UpDown2.UserReleases();
+  c.UpDown2.UserClicks(false);
+  EXPECT_EQ(history::steps.StepCount(), 5U);
+  c.UpDown2.UserClicks(true);  // still held, and back where it was
+  c.UpDown2.UserReleases();
+  EXPECT_EQ(menu(), "Undo Resize 1 Redo 0");
+  EXPECT_EQ(history::steps.StepCount(), 4U) << "what comes back to where it began is none";
+  for (int i = 0; i < 3; ++i) c.mnu_undo.UserClicks();
+  EXPECT_EQ(SelectedPlace() + " " + menu(), "5 0 0 Undo Move 1 Redo Move 1");
+  c.mnu_playmode.UserClicks();
+  EXPECT_EQ(menu(), "Undo 0 Redo 0");
+  c.mnu_undo.UserClicks();
+  c.mnu_editmode.UserClicks();
+  c.mnu_undo.UserClicks();
+  EXPECT_EQ(SelectedPlace() + " " + menu(), "0 0 0 Undo 0 Redo Move 1");
+  EXPECT_FALSE(history::steps.DiffersFromSaved()) << "back where it was";
+}
+
+TEST_F(HistoryTest, RefusalsAndWhatChangesNothingAreNoSteps) {
+  c.mnu_BouncePad.UserClicks();
+  c.mnu_MovingPlatform.UserClicks();
+  c.cmd_pause.UserClicks();
+  history::steps.Reset();
+  Press(39);                        // a running platform
+  c.UpDown_speed.UserClicks(true);  // the same
+  Select(TypeBlock, 1);
+  Press(103);                   // a pad's size
+  c.File1.UserDoubleClicks(2);  // its texture
+  Select(TypeBlock, 0);
+  c.File1.UserDoubleClicks(0);  // the texture that it has
+  c.Combo1.UserSelects(0);      // the stretch that it has
+  Press('Z');                   // below the ground
+  c.mnu_normal.UserClicks();
+  c.mnu_background1.UserClicks();
+  c.mnu_copy.UserClicks();
+  c.cmd_pause.UserClicks();
+  EXPECT_EQ(history::steps.StepCount(), 0U);
+  c.mnu_New.UserClicks();
+  c.mnu_New.UserClicks();
+  EXPECT_EQ(history::steps.StepCount(), 1U) << "a new track that is new already";
+}
+
+TEST_F(HistoryTest, UndoShowsWhatItChanged) {
+  c.mnu_ice.UserClicks();
+  Press(46);
+  c.VScroll1.Value(400);
+  c.mnu_undo.UserClicks();
+  EXPECT_EQ(Words(Document.SelectedIndex, DirectX::CameraTarget.z, Marked()), "1 0 0 1;");
+  c.VScroll1.Value(995);
+  c.mnu_redo.UserClicks();
+  EXPECT_EQ(Words(Document.ObjectSelected, DirectX::CameraTarget.z), "0 5") << "it was in sight";
+}
+
+TEST_F(HistoryTest, OldStepsGoBeforeMemoryDoes) {
+  for (int i = 0; i < 20; ++i) {
+    Document.Blocks.resize(8000);
+    Document.BlockCount = 7999;
+    c.mnu_New.UserClicks();
+    ASSERT_LE(history::steps.Bytes(), history::History::kMostBytes);
+  }
+  EXPECT_GT(history::steps.StepCount(), 8U);
+  EXPECT_LT(history::steps.StepCount(), 20U);
+}
+
+TEST_F(HistoryTest, PlayThatIsLeftWithoutARestoreIsAStep) {
+  const std::string track = Bytes();
+  c.mnu_playmode.UserClicks();
+  Document.Blocks[0].Ypos(30);
+  c.mnu_load.UserClicks();  // cancelled: the track stays as play left it
+  EXPECT_NE(Bytes(), track);
+  c.mnu_undo.UserClicks();
+  EXPECT_EQ(Bytes(), track);
 }
 
 }  // namespace
