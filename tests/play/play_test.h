@@ -1,6 +1,7 @@
 // Tracks built by hand and driven in play mode on the null device.
 #pragma once
 
+#include <cmath>
 #include <optional>
 #include <string>
 #include <vector>
@@ -124,3 +125,12 @@ inline const std::string kLand = "14 -\n";
 inline constexpr float kStanding = 1.001F;
 /// How near sums of Singles come to the exact number.
 inline constexpr float kNear = 2e-5F;
+/// Whether the numbers are near what they should be.
+inline testing::AssertionResult Near(const std::vector<double>& seen,
+                                     const std::vector<double>& expected) {
+  for (size_t i = 0; i < expected.size(); ++i) {
+    if (std::abs(seen.at(i) - expected[i]) < kNear) continue;
+    return testing::AssertionFailure() << seen[i] << " instead of " << expected[i];
+  }
+  return testing::AssertionSuccess();
+}
