@@ -74,8 +74,15 @@ TEST_F(PlatformTest, StandsStillWithoutDirectionOrWhenStopped) {
   EXPECT_EQ(platform.GetVelocity(), (Vector3{0.05F, 0, 0})) << "what it would do";
 }
 
-TEST_F(PlatformTest, PlanesFollowMotionNotSize) {
-  PutPiece(platform, {0, 0, 0}, {2, 1, 1});
+TEST_F(PlatformTest, ColoursFollowSizeAndPlanesFollowMotion) {
+  const auto frontAndLeft = [this] {
+    return std::pair(platform.GeometryVertices()[0].colour, platform.GeometryVertices()[6].colour);
+  };
+  platform.scaleX(2);
+  platform.scaleY(1);
+  EXPECT_EQ(frontAndLeft(), std::pair(0x9A9A9AU, 0x9A9A9AU)) << "no gradient";
+  platform.scaleZ(1);
+  EXPECT_EQ(frontAndLeft(), std::pair(0x9A9A9AU, 0xFFFFFFU)) << "the front does not span z";
   EXPECT_EQ(platform.GetCollisionPlane(2), CollisionPlane()) << "created without a width";
   After(20);
   EXPECT_EQ(platform.GetCollisionPlane(2), (CollisionPlane{1, 0, 0, -3}));
@@ -104,16 +111,6 @@ TEST_F(PlatformTest, PositionsKeepFractionsAndRefuseDepths) {
   EXPECT_EQ((Vector3{platform.GetInitalXpos(), platform.GetInitalYpos(), platform.GetInitalZpos()}),
             (Vector3{0, 2.5F, 2.5F}));
   EXPECT_EQ((Vector3{platform.Xpos(), platform.Ypos(), platform.Zpos()}), (Vector3{0, 2.5F, 2.5F}));
-}
-
-TEST_F(PlatformTest, ResizedSidesHaveNoGradient) {
-  const auto frontAndLeft = [this] {
-    return std::pair(platform.GeometryVertices()[0].colour, platform.GeometryVertices()[6].colour);
-  };
-  platform.scaleY(2);
-  EXPECT_EQ(frontAndLeft(), std::pair(0x9A9A9AU, 0x9A9A9AU));
-  platform.scaleZ(2);
-  EXPECT_EQ(frontAndLeft(), std::pair(0x9A9A9AU, 0xFFFFFFU)) << "the front does not span z";
 }
 
 }  // namespace

@@ -44,10 +44,8 @@ class PieceTest : public DeviceTest {
     }
     return draws;
   }
-  void DrawBlock(int frames) {
-    DrawFrame([&] {
-      for (int i = 0; i < frames; ++i) block.draw();
-    });
+  void DrawBlock() {
+    DrawFrame([this] { block.draw(); });
   }
   clsblock block;
   clsRamp ramp;
@@ -179,13 +177,13 @@ TEST_F(PieceTest, BounceRisesByOneAndEndsAfter22Frames) {
   block.Bounce();
   float highest = 0;
   for (int frame = 1; frame <= 21; ++frame) {
-    DrawBlock(1);
+    DrawBlock();
     highest = std::max(highest, block.Ypos());
   }
   EXPECT_NEAR(highest, 1.0, 1e-6);
   EXPECT_GT(block.fallvel(), 0) << "still on its way down";
   for (int frame = 22; frame <= 23; ++frame) {
-    DrawBlock(1);
+    DrawBlock();
     EXPECT_EQ(std::pair(block.Ypos(), block.fallvel()), std::pair(0.0F, 0.0F)) << frame;
   }
 }
@@ -193,10 +191,10 @@ TEST_F(PieceTest, BounceRisesByOneAndEndsAfter22Frames) {
 TEST_F(PieceTest, FallAcceleratesByTheTracksGravity) {
   Document.Gravity = 0.025F;
   block.Fall();
-  DrawBlock(1);
+  DrawBlock();
   EXPECT_FLOAT_EQ(block.Ypos(), -0.025F);
   EXPECT_FLOAT_EQ(block.GetCollisionPlane(3).d, -(1 - 0.025F));
-  DrawBlock(1);
+  DrawBlock();
   EXPECT_FLOAT_EQ(block.Ypos(), -0.075F);
   EXPECT_FLOAT_EQ(block.fallvel(), 0.05F);
 }

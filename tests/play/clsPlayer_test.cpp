@@ -87,24 +87,23 @@ TEST_F(PlayerTest, ExplosionStandsStillWithTheCamera) {
   AddFloor();
   Run("20 up");
   Player.explode();
-  const float camera = DirectX::CameraPosition.z;
+  const Vector3 camera = DirectX::CameraPosition;
   const size_t with = world->screen.commands.size();
   EXPECT_GT(Continue("3 -").back().fv, 0);
-  EXPECT_EQ(DirectX::CameraPosition.z, camera);
+  EXPECT_EQ(DirectX::CameraPosition, camera);
   EXPECT_EQ(with - world->screen.commands.size(), 4U) << "car and four pieces of shadow go";
   const Command& sprite = world->screen.commands.back();
   ASSERT_EQ(sprite.primitive, Primitive::PointList);
   const DeviceStates& states = world->screen.states[sprite.states];
-  EXPECT_EQ(states.pointSize, 0.06F);
-  EXPECT_TRUE(states.alphaBlend && !states.depthWrite);
+  EXPECT_TRUE(states.pointSize == 0.06F && states.alphaBlend && !states.depthWrite);
   EXPECT_TRUE(DirectX::D3DDevice->States().depthWrite);
   EXPECT_EQ(world->screen.worlds[sprite.world], d3dx::Identity());
   const PointVertex& point = sprite.buffer->Vertices<PointVertex>()[0];
-  EXPECT_EQ(std::pair(point.x, point.colour), std::pair(0.0F, 0xFFFFFFFFU));
-  EXPECT_NEAR(point.y, kStanding + 1, kNear);
-  EXPECT_NEAR(point.z, Player.Posz() - 0.5, kNear);
-  EXPECT_EQ(sprite.texture->Level(0).At(0, 0), 0U) << "black becomes transparent";
-  EXPECT_EQ(sprite.texture->Level(0).At(63, 63), 0xFFFFFFFFU) << "the second picture";
+  EXPECT_TRUE(Near({point.x, point.y, point.z}, {0, kStanding + 1, Player.Posz() - 0.5}));
+  const Image& picture = sprite.texture->Level(0);
+  EXPECT_EQ((std::array{point.colour, picture.At(0, 0), picture.At(63, 63)}),
+            (std::array{0xFFFFFFFFU, 0U, 0xFFFFFFFFU}))
+      << "the second picture, whose black is transparent";
   EXPECT_EQ(sprite.texture->PixelFormat(), TextureObject::Format::Colour16Alpha1);
   // Blank pictures.
   Continue("40 -");
