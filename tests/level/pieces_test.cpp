@@ -4,6 +4,7 @@
 #include "level/clsRamp.h"
 #include "level/clsStar.h"
 #include "level/clsblock.h"
+#include "level/kept_track.h"
 #include "level/maths.h"
 #include "tests/support/null_editor.h"
 
@@ -160,6 +161,14 @@ TEST_F(PieceTest, TexturesThatCannotBeLoadedKeepTheFace) {
   EXPECT_TRUE(ShowBackdrop("bk002.jpg") && ShowBackdrop("_bk001.jpg") &&
               !ShowBackdrop("_gone.jpg"));
   EXPECT_EQ(Document.Background.Name(), folder / "backgrounds/bk001.jpg");
+}
+
+TEST_F(PieceTest, ATakenTrackLeavesNone) {
+  Document.BlockCount = Document.RampCount = Document.PlatformCount = Document.StarCount = 7;
+  TakeTrack();
+  EXPECT_EQ((std::array{Document.BlockCount, Document.RampCount, Document.PlatformCount,
+                        Document.StarCount}),
+            (std::array{-1, -1, -1, -1}));
 }
 
 TEST_F(PieceTest, AnimatedFacesStepThroughTheFrames) {
