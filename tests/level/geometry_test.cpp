@@ -34,15 +34,13 @@ struct Solid {
   std::vector<Corners> corners;
   std::vector<std::pair<Vector3, Vector3>> bounds;  ///< greatest and smallest
 
-  /// How far the point of the unit cube lies inside, negative outside.
-  double Depth(double x, double y, double z) const {
+  /// How far the point lies inside the piece if that were a unit cube or its wedge.
+  double Depth(const Vector3& p) const {
+    const double x = (p.x - position.x) / size.x, y = (p.y - position.y) / size.y;
+    const double z = (p.z - position.z) / size.z;
     const double along[] = {z, x, 1 - z, 1 - x};
     const double top = rotation < 0 ? 1 : along[rotation];
     return std::min({x, 1 - x, y, top - y, z, 1 - z});
-  }
-  double DepthInWorld(const Vector3& p) const {
-    return Depth((p.x - position.x) / size.x, (p.y - position.y) / size.y,
-                 (p.z - position.z) / size.z);
   }
   Vector3 Placed(const Vertex& v) const {
     return {position.x + size.x * v.x, position.y + size.y * v.y, position.z + size.z * v.z};
@@ -131,41 +129,27 @@ class GeometryTest : public DeviceTest {
   }
 };
 
-TEST_F(GeometryTest, TrianglesLieOnTheSolidAndFaceOutwards) {
-  for (const Solid& solid : Solids()) {
-    for (size_t i = 0; i < solid.vertices.size(); i += 3) {
-      SCOPED_TRACE(solid.name + " triangle " + std::to_string(i / 3));
-      Vector3 p[3], n;
-      for (size_t k = 0; k < 3; ++k) {
-        const Vertex& v = solid.vertices[i + k];
-        p[k] = {v.x, v.y, v.z};
-        EXPECT_NEAR(solid.Depth(v.x, v.y, v.z), 0, 1e-6);
-        EXPECT_EQ(v.specular, 0U);
-      }
-      maths::FaceNormal(p[0], p[1], p[2], n);
-      const Vector3 m = Middle(p[0], p[1], p[2]);
-      // Two walls that face away from the camera are wound inwards.
-      const bool inwards = (solid.rotation == 0 && i >= 12) || (solid.rotation == 3 && i == 9);
-      const double step = inwards ? -0.01 : 0.01;
-      EXPECT_LT(solid.Depth(m.x + step * n.x, m.y + step * n.y, m.z + step * n.z), 0);
-      EXPECT_GT(solid.Depth(m.x - step * n.x, m.y - step * n.y, m.z - step * n.z), 0);
-    }
-  }
-}
-
-TEST_F(GeometryTest, DrawnFacesFillTheirNumberedPlanes) {
+TEST_F(GeometryTest, DrawnFacesFillTheirNumberedPlanesAndFaceAsTheyDo) {
   for (const Solid& solid : Solids()) {
     for (const auto& [first, end, number] : solid.faces) {
       SCOPED_TRACE(solid.name + " plane " + std::to_string(number));
       std::set<Point> drawn, named;
       std::set<std::pair<Point, Point>> edges;
       double drawnArea = 0;
+      const CollisionPlane back{0, 0, 1, -(solid.position.z + solid.size.z)};
+      const CollisionPlane& plane = number == 0 ? back : solid.planes[number - 1];
+      // Two walls that face away from the camera are wound inwards.
+      const bool inwards = number == 0 && solid.rotation != 1;
       for (size_t i = first; i < end; i += 3) {
-        Vector3 p[3];
+        Vector3 p[3], normal;
         for (size_t k = 0; k < 3; ++k) {
           p[k] = solid.Placed(solid.vertices[i + k]);
           drawn.insert(AsPoint(p[k]));
+          EXPECT_NEAR(Above(plane, p[k]), 0, 1e-5);
+          EXPECT_EQ(solid.vertices[i + k].specular, 0U);
         }
+        maths::FaceNormal(p[0], p[1], p[2], normal);
+        EXPECT_NEAR(d3dx::Dot(normal, {plane.a, plane.b, plane.c}), inwards ? -1 : 1, 1e-5);
         for (size_t k = 0; k < 3; ++k) {
           const bool once = edges.insert({AsPoint(p[k]), AsPoint(p[(k + 1) % 3])}).second;
           EXPECT_TRUE(once) << "its triangles do not overlap";
@@ -173,7 +157,6 @@ TEST_F(GeometryTest, DrawnFacesFillTheirNumberedPlanes) {
         drawnArea += Area(p[0], p[1], p[2]);
       }
       if (number == 0) {
-        for (const Point& p : drawn) EXPECT_EQ(p[2], solid.position.z + solid.size.z);
         EXPECT_NEAR(drawnArea, solid.size.x * solid.size.y / (solid.rotation == 0 ? 1 : 2), 1e-4);
         continue;
       }
@@ -203,7 +186,7 @@ TEST_F(GeometryTest, PlanesFaceOutwardsAndHoldTheirCorners) {
       EXPECT_LT(Above(plane, heart), 0);
       for (const Vector3& p : c) {
         EXPECT_NEAR(Above(plane, p), 0, 1e-5);
-        EXPECT_NEAR(solid.DepthInWorld(p), 0, i == 5 ? 1 : 1e-6);
+        EXPECT_NEAR(solid.Depth(p), 0, i == 5 ? 1 : 1e-6);
       }
       if (i == 5) ExpectStrip(solid, c);
       const bool slope = solid.rotation >= 0 && i == 2;

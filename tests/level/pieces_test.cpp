@@ -122,15 +122,15 @@ TEST_F(PieceTest, ColoursFollowSizeAndSelection) {
   EXPECT_EQ(Colours(ramp, rampVertices), plain);
 }
 
-TEST_F(PieceTest, PlanesHaveNumbers) {
+TEST_F(PieceTest, PlanesFollowAMoveAtTheNextRefresh) {
   block.Xpos(5);
   EXPECT_EQ(block.GetCollisionPlane(1).d, 0.0F);
   block.SelectBlock();
-  EXPECT_EQ(block.GetCollisionPlane(1).d, 5.0F) << "they follow a move at the next refresh";
+  EXPECT_EQ(block.GetCollisionPlane(1).d, 5.0F);
   EXPECT_THROW(block.GetCollisionPlane(0), std::out_of_range);
   EXPECT_THROW(block.GetPlaneNormal(6), std::out_of_range);
   EXPECT_THROW(ramp.GetCollisionPlane(0), std::out_of_range);
-  EXPECT_THROW(ramp.GetCollisionPlane(7), std::out_of_range);
+  EXPECT_THROW(ramp.GetPlaneNormal(7), std::out_of_range);
 }
 
 TEST_F(PieceTest, DrawsItsFacesScaledThenMoved) {
