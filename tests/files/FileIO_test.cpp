@@ -246,6 +246,7 @@ TEST_F(RefusedReadTest, NoMemoryAtAnyMoment) {
     ASSERT_TRUE(Read(fresh).Ok());
     servedAllocations = allocation;
     const FileIO::Result written = FileIO::WriteLevel(target);
+    EXPECT_EQ(read.offset + written.offset, 0U) << "no place in a file";
     allServed = std::exchange(servedAllocations, -1) >= 0 && allServed;
     EXPECT_EQ(ReadBytes(target), written.Ok() ? fresh + longer.substr(fresh.size()) : longer);
     const std::filesystem::directory_iterator files(folder / "levels");
