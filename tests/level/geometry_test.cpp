@@ -209,8 +209,7 @@ TEST_F(GeometryTest, GradientsRiseToTheHighEdge) {
 
 /// Box textures lie upright and unmirrored on each face, once per unit or as often as asked.
 TEST_F(GeometryTest, BoxTexturesFollowTheExtents) {
-  for (const int stretch : {0, 1, 3}) {
-    const int onTop = stretch == 0 ? 0 : stretch + 1;
+  for (const auto& [stretch, onTop] : {std::pair{0, 0}, {1, 2}, {3, 1}}) {
     clsblock block;
     block.create(0, 0, 0, 1, 1, 1);
     block.ScaleTextureSide(static_cast<uint8_t>(stretch));
