@@ -10,6 +10,7 @@
 
 #include "files/file_calls.h"
 #include "files/safe_writer.h"
+#include "tests/files/level_files.h"
 #include "tests/support/null_editor.h"
 
 namespace {
@@ -51,18 +52,12 @@ TEST(FileAccess, NobodyGainsARightWhateverCannotBeKept) {
 }
 
 /// An access list as the kernel stores it: everything for the owner, nothing for one user.
-std::string ListAgainst(uint32_t user) {
-  std::string list("\2\0\0\0", 4);
-  const auto add = [&list](uint16_t tag, uint16_t rights, uint32_t id) {
-    list.append(reinterpret_cast<const char*>(&tag), 2);
-    list.append(reinterpret_cast<const char*>(&rights), 2);
-    list.append(reinterpret_cast<const char*>(&id), 4);
-  };
-  add(1, 6, UINT32_MAX);
-  add(2, 0, user);
-  add(4, 6, UINT32_MAX);
-  add(16, 6, UINT32_MAX);
-  add(32, 6, UINT32_MAX);
+std::string ListAgainst(int user) {
+  using level_files::Long, level_files::Integer;
+  std::string list = Long(2);
+  for (const int tag : {1, 2, 4, 16, 32}) {
+    list += Integer(tag) + (tag == 2 ? Integer(0) + Long(user) : Integer(6) + Long(-1));
+  }
   return list;
 }
 
@@ -76,13 +71,12 @@ TEST(SavedFile, KeepsItsListAndItsGroupAndTakesNoListFromTheFolder) {
   };
   WriteBytes(target, "old");
   chmod(target.c_str(), 0660);
-  if (setxattr(folder.Path().c_str(), "system.posix_acl_default", list.data(), list.size(), 0) !=
-      0) {
+  const char* const inherited = "system.posix_acl_default";
+  if (setxattr(folder.Path().c_str(), inherited, list.data(), list.size(), 0) != 0) {
     GTEST_SKIP() << "no access lists here";
   }
   EXPECT_EQ(WriteFileSafely(target, "new").failure, "");
-  EXPECT_EQ(access().list, "");
-  EXPECT_EQ(access().mode, 0660U);
+  EXPECT_EQ(std::pair(access().list.value(), access().mode), std::pair(std::string(), 0660U));
   setxattr(target.c_str(), kAccessListName, list.data(), list.size(), 0);
   EXPECT_EQ(WriteFileSafely(target, "newer").failure, "");
   EXPECT_EQ(access().list, list);
@@ -102,9 +96,8 @@ TEST(SavedFile, KeepsItsListAndItsGroupAndTakesNoListFromTheFolder) {
     waitpid(saver, &status, 0);
     EXPECT_EQ(status, 0);
     const bool member = group == 2001;
-    EXPECT_EQ(access().group, member ? 2001U : 3001U);
-    EXPECT_EQ(access().list, member ? list : "");
-    EXPECT_EQ(access().mode, member ? 0666U : 0600U);
+    EXPECT_EQ(std::tuple(access().group, access().mode, access().list.value()),
+              member ? std::tuple(2001U, 0666U, list) : std::tuple(3001U, 0600U, ""));
   }
 }
 

@@ -12,25 +12,23 @@ class Editor : public DeviceTest {
  public:
   Editor() { SetUp(); }
   void TestBody() override {}
+  /// What play does to objects; an overflow ends the run.
+  void Play() {
+    DrawFrame([] {
+      for (clsMovingPlatform& platform : Live(Document.Platforms, Document.PlatformCount)) {
+        for (int step = 0; step < 3; ++step) platform.move();
+        platform.draw();
+      }
+      for (clsblock& block : Live(Document.Blocks, Document.BlockCount)) {
+        block.Fall();
+        block.Bounce();
+        block.draw();
+      }
+      for (clsRamp& ramp : Live(Document.Ramps, Document.RampCount)) ramp.draw();
+      for (clsStar& star : Live(Document.Stars, Document.StarCount)) star.draw();
+    });
+  }
 };
-
-/// What play does to objects; an overflow ends the run.
-void Play() {
-  DirectX::D3DDevice->BeginScene();
-  for (clsMovingPlatform& platform : Live(Document.Platforms, Document.PlatformCount)) {
-    for (int step = 0; step < 3; ++step) platform.move();
-    platform.draw();
-  }
-  for (clsblock& block : Live(Document.Blocks, Document.BlockCount)) {
-    block.Fall();
-    block.Bounce();
-    block.draw();
-  }
-  for (clsRamp& ramp : Live(Document.Ramps, Document.RampCount)) ramp.draw();
-  for (clsStar& star : Live(Document.Stars, Document.StarCount)) star.draw();
-  DirectX::D3DDevice->EndScene();
-  DirectX::D3DDevice->Present();
-}
 
 }  // namespace
 
@@ -42,6 +40,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (!FileIO::LevelBytes(saved).Ok()) std::abort();
   if (!FileIO::ReadLevelBytes(saved, "saved").Ok()) std::abort();
   if (!FileIO::LevelBytes(again).Ok() || saved != again) std::abort();
-  Play();
+  editor.Play();
   return 0;
 }

@@ -4,51 +4,55 @@
 
 namespace {
 
+constexpr uint8_t kLeft = clsMovingPlatform::Left, kRight = clsMovingPlatform::Right;
+
 class PlatformTest : public DeviceTest {
  protected:
   void SetUp() override {
     DeviceTest::SetUp();
-    platform.create(0, 0, 0);
-    platform.Xpos(0);
-    platform.Mdir(clsMovingPlatform::Right);
-    platform.Mspeed(5);
-    platform.Mdist(5);
+    Start(0, kRight, 5, 5);
+  }
+  void Start(float x, uint8_t direction, uint8_t speed, uint8_t distance) {
+    platform.create(x, 0, 0);
+    platform.Xpos(x);
+    platform.Mdir(direction);
+    platform.Mspeed(speed);
+    platform.Mdist(distance);
     platform.MloopBack(true);
   }
-  void Move(int steps) {
+  /// Place, direction and whether it has just turned, after so many steps.
+  using State = std::tuple<float, uint8_t, bool>;
+  State After(int steps) {
     for (int i = 0; i < steps; ++i) platform.move();
+    return {platform.Xpos(), platform.Mdir(), platform.GetChangeDir()};
   }
   clsMovingPlatform platform;
 };
 
 TEST_F(PlatformTest, SwingsBackAndForth) {
-  Move(100);
-  EXPECT_EQ(platform.Xpos(), 5.0F);
-  EXPECT_FALSE(platform.GetChangeDir());
-  EXPECT_EQ(platform.GetVelocity(), Vector3()) << "the next step turns round";
-  Move(1);
-  EXPECT_EQ(platform.Xpos(), 5.0F);
-  EXPECT_TRUE(platform.GetChangeDir());
-  EXPECT_EQ(platform.Mdir(), clsMovingPlatform::Left);
-  EXPECT_EQ(platform.GetinitalMDir(), clsMovingPlatform::Right);
-  Move(1);
-  EXPECT_FALSE(platform.GetChangeDir());
-  EXPECT_EQ(platform.GetVelocity(), (Vector3{-0.05F, 0, 0}));
-  Move(99);
-  EXPECT_EQ(platform.Xpos(), 0.0F);
-  Move(1);
-  EXPECT_EQ(platform.Mdir(), clsMovingPlatform::Right);
-  EXPECT_EQ(platform.GetInitalXpos(), 0.0F);
+  for (const uint8_t start : {kLeft, kRight}) {
+    const uint8_t back = start == kLeft ? kRight : kLeft;
+    const float end = start == kLeft ? -5 : 5;
+    Start(0, start, 5, 5);
+    EXPECT_EQ(After(100), State(end, start, false));
+    EXPECT_EQ(platform.GetVelocity(), Vector3()) << "the next step turns round";
+    EXPECT_EQ(After(1), State(end, back, true));
+    EXPECT_EQ(After(1), State(end * 0.99F, back, false));
+    EXPECT_EQ(After(99), State(0, back, false));
+    EXPECT_EQ(After(1), State(0, start, true));
+    EXPECT_EQ(std::pair(platform.GetInitalXpos(), platform.GetinitalMDir()),
+              std::pair(0.0F, start));
+  }
+  platform.MloopBack(false);
+  EXPECT_EQ(After(100), State(5, kRight, false));
+  EXPECT_EQ(platform.GetVelocity(), Vector3()) << "a jump carries nobody";
+  EXPECT_EQ(After(1), State(0, kRight, false)) << "without loop";
 }
 
 TEST_F(PlatformTest, VelocityIsWhatTheNextStepAdds) {
   for (uint8_t speed = 0; speed <= 20; ++speed) {
     for (uint8_t distance = 0; distance <= 10; ++distance) {
-      platform.create(-7.3F, 0, 0);
-      platform.Xpos(-7.3F);
-      platform.Mdir(distance % 2 == 0 ? clsMovingPlatform::Left : clsMovingPlatform::Right);
-      platform.Mspeed(speed);
-      platform.Mdist(distance);
+      Start(-7.3F, distance % 2 == 0 ? kLeft : kRight, speed, distance);
       for (int i = 0; i < 300; ++i) {
         const float before = platform.Xpos(), velocity = platform.GetVelocity().x;
         platform.move();
@@ -58,87 +62,55 @@ TEST_F(PlatformTest, VelocityIsWhatTheNextStepAdds) {
   }
 }
 
-TEST_F(PlatformTest, WithoutLoopJumpsBackToItsStart) {
-  platform.MloopBack(false);
-  Move(100);
-  EXPECT_EQ(platform.GetVelocity(), Vector3()) << "a jump carries nobody";
-  Move(1);
-  EXPECT_EQ(platform.Xpos(), 0.0F);
-  EXPECT_EQ(platform.Mdir(), clsMovingPlatform::Right);
-}
-
-TEST_F(PlatformTest, LeftIsTheMirrorImage) {
-  platform.Mdir(clsMovingPlatform::Left);
-  Move(101);
-  EXPECT_EQ(platform.Xpos(), -5.0F);
-  EXPECT_TRUE(platform.GetChangeDir());
-}
-
-TEST_F(PlatformTest, StandsStillWithoutSpeedOrDirection) {
-  platform.Mspeed(0);
-  Move(3);
-  EXPECT_EQ(platform.Xpos(), 0.0F);
-  EXPECT_EQ(platform.GetVelocity(), Vector3());
-  platform.Mspeed(5);
+TEST_F(PlatformTest, StandsStillWithoutDirectionOrWhenStopped) {
   for (const uint8_t direction : {uint8_t{1}, uint8_t{4}}) {
     platform.Mdir(direction);
-    Move(3);
-    EXPECT_EQ(platform.Xpos(), 0.0F);
+    EXPECT_EQ(After(3), State(0, direction, false));
     EXPECT_EQ(platform.GetVelocity(), Vector3());
   }
-}
-
-TEST_F(PlatformTest, StopFreezesButStillReportsTheNextStep) {
+  platform.Mdir(kRight);
   platform.stopMoving();
-  Move(3);
-  EXPECT_EQ(platform.Xpos(), 0.0F);
-  EXPECT_EQ(platform.GetVelocity(), (Vector3{0.05F, 0, 0}));
+  EXPECT_EQ(After(3), State(0, kRight, false));
+  EXPECT_EQ(platform.GetVelocity(), (Vector3{0.05F, 0, 0})) << "what it would do";
 }
 
-TEST_F(PlatformTest, PlanesFollowMotionNotSize) {
+TEST_F(PlatformTest, ColoursFollowSizeAndPlanesFollowMotion) {
+  const auto frontAndLeft = [this] {
+    return std::pair(platform.GeometryVertices()[0].colour, platform.GeometryVertices()[6].colour);
+  };
   platform.scaleX(2);
   platform.scaleY(1);
+  EXPECT_EQ(frontAndLeft(), std::pair(0x9A9A9AU, 0x9A9A9AU)) << "no gradient";
   platform.scaleZ(1);
+  EXPECT_EQ(frontAndLeft(), std::pair(0x9A9A9AU, 0xFFFFFFU)) << "the front does not span z";
   EXPECT_EQ(platform.GetCollisionPlane(2), CollisionPlane()) << "created without a width";
-  Move(20);
+  After(20);
   EXPECT_EQ(platform.GetCollisionPlane(2), (CollisionPlane{1, 0, 0, -3}));
 }
 
-TEST_F(PlatformTest, ResetReturnsUnlessTheDirectionIsOne) {
-  Move(10);
+TEST_F(PlatformTest, ReturnsToItsOriginOrLeg) {
+  After(10);
   platform.ResetToOrigin();
-  EXPECT_EQ(platform.Xpos(), 0.0F);
-  platform.Mdir(clsMovingPlatform::Right);
-  Move(10);
+  EXPECT_EQ(After(10), State(0.5F, kRight, false));
   platform.Mdir(1);
   platform.ResetToOrigin();
-  EXPECT_EQ(platform.Xpos(), 0.5F);
-}
-
-TEST_F(PlatformTest, AnimationIsSavedAndRestored) {
-  Move(110);
+  EXPECT_EQ(platform.Xpos(), 0.5F) << "not with this direction";
+  Start(0, kRight, 5, 5);
+  After(110);
   platform.StartAnimation();
-  Move(30);
+  After(30);
   platform.StopAnimation();
-  EXPECT_EQ(platform.Xpos(), 5.0F) << "where the leg began";
-  EXPECT_EQ(platform.Mdir(), clsMovingPlatform::Left);
+  EXPECT_EQ(After(0), State(5, kLeft, false)) << "where the leg began";
 }
 
 TEST_F(PlatformTest, PositionsKeepFractionsAndRefuseDepths) {
-  platform.Zpos(2.5F);
-  platform.Zpos(-1.0F);
-  platform.Ypos(-1.0F);
-  EXPECT_EQ(platform.Zpos(), 2.5F);
-  EXPECT_EQ(platform.GetInitalZpos(), 2.5F);
-  EXPECT_EQ(platform.Ypos(), 0.0F);
-}
-
-TEST_F(PlatformTest, ResizedSidesHaveNoGradient) {
-  platform.scaleY(2);
-  EXPECT_EQ(platform.GeometryVertices()[0].colour, 0x9A9A9AU);
-  platform.scaleZ(2);
-  EXPECT_EQ(platform.GeometryVertices()[6].colour, 0xFFFFFFU);
-  EXPECT_EQ(platform.GeometryVertices()[0].colour, 0x9A9A9AU) << "the front does not span z";
+  for (const float value : {2.5F, -1.0F}) {
+    platform.Ypos(value);
+    platform.Zpos(value);
+  }
+  EXPECT_EQ((Vector3{platform.GetInitalXpos(), platform.GetInitalYpos(), platform.GetInitalZpos()}),
+            (Vector3{0, 2.5F, 2.5F}));
+  EXPECT_EQ((Vector3{platform.Xpos(), platform.Ypos(), platform.Zpos()}), (Vector3{0, 2.5F, 2.5F}));
 }
 
 }  // namespace

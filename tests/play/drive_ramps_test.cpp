@@ -35,8 +35,7 @@ TEST_F(RampDriveTest, ClimbsForwardsAndStandsBeyondTheHighEdgeForItsOwnLength) {
   EXPECT_LT(rows.back().y, 3) << "and falls then";
   AddBlock({-2, 1, 14}, {4, 2, 20});
   const Row row = Last("15 up\n50 -");
-  EXPECT_NEAR(row.y, 3.001, kNear);
-  EXPECT_NEAR(row.fv, 0.3, kNear);
+  EXPECT_TRUE(Near({row.y, row.fv}, {3.001, 0.3}));
 }
 
 TEST_F(RampDriveTest, OnItFrontFacesDoNotCount) {
@@ -47,20 +46,11 @@ TEST_F(RampDriveTest, OnItFrontFacesDoNotCount) {
   EXPECT_NEAR(row.fv, 0.16, kNear);
 }
 
-TEST_F(RampDriveTest, ClimbsASteepOneToTheRight) {
-  AddRamp({2, 1, 0}, {2, 4, 20}, 1);
-  AddBlock({4, 1, 0}, {6, 4, 20});
-  EXPECT_NEAR(Last(kLand + "60 right").y, 5.001, kNear);
-}
-
 TEST_F(RampDriveTest, DescendsForwardsAndCannotClimbTheRiser) {
   AddRamp({-2, 1, 10}, {4, 2, 4}, 2);
   EXPECT_NEAR(Last("15 up\n60 -").z, 9.999, kNear) << "the riser faces the car";
   AddBlock({-2, 1, 2}, {4, 2, 8});
-  track_tool::Drive drive;
-  Player.PosY(3.001F);
-  Player.Posz(4);
-  const auto rows = Continue(drive, "10 up\n60 -");
+  const auto rows = RunFrom({0, 3.001F, 4}, "10 up\n60 -");
   for (const Row& row : rows) {
     // It falls behind the slope first.
     if (row.z > 11.2F && row.z < 13.8F) ExpectOnSlope(row, 2, 0.2);
@@ -79,41 +69,27 @@ TEST_F(RampDriveTest, ClimbsAndDescendsSideways) {
     for (const Row& row : rows) {
       if (std::abs(row.x) > 1.9F && std::abs(row.x) < 5.5F) ExpectOnSlope(row, rotation, 0.06);
     }
-    EXPECT_NEAR(rows[kLanding + 57].y, 3.001, kNear);
-    EXPECT_NEAR(rows[kLanding + 57].x, right ? 6.96 : -6.96, 1e-3);
-    EXPECT_NEAR(rows.back().y, kStanding, 0.06);
-    EXPECT_NEAR(rows.back().x, 0, 1e-3);
+    const Row &top = rows[kLanding + 57], &back = rows.back();
+    EXPECT_TRUE(Near({top.x, top.y, back.x, back.y}, {right ? 6.96 : -6.96, 3.001, 0, kStanding}));
   }
 }
 
-TEST_F(RampDriveTest, EverySlopeHoldsAStandingCar) {
+TEST_F(RampDriveTest, EverySlopeHoldsACarWithOneEndOfItsTouchingEdge) {
   for (const float height : {1.0F, 4.0F, 9.0F}) {
     for (int rotation = 0; rotation < 4; ++rotation) {
       RemoveRamps();
       AddRamp({-2, 1, 10}, {4, height, 4}, rotation);
-      track_tool::Drive drive;
-      Player.Posz(12.4F);
-      Player.PosY(1 + height);
-      const Row row = Continue(drive, "60 -").back();
-      EXPECT_TRUE(row.onGround) << height << ' ' << rotation;
-      // The touching edge of the box lies 0.4 above the middle of the slope, seen along it.
-      EXPECT_NEAR(row.y, 1 + height * 0.6, 0.1) << height << ' ' << rotation;
-    }
-  }
-}
-
-TEST_F(RampDriveTest, OneEndOfTheTouchingEdgeHoldsIt) {
-  for (int rotation = 0; rotation < 4; ++rotation) {
-    RemoveRamps();
-    AddRamp({-2, 1, 10}, {4, 4, 4}, rotation);
-    for (const float over : {-2.5F, -2.3F, 2.3F, 2.5F}) {
-      track_tool::Drive drive;
       // The edge runs along x, from 0.4 to both sides, or along z, from 0 to 0.8 back.
-      Player.Posx(rotation % 2 == 0 ? over : 0);
-      Player.Posz(rotation % 2 == 0 ? 12.4F : 12.4F + over);
-      Player.PosY(4.5F);
-      const Row row = Continue(drive, "40 -").back();
-      EXPECT_EQ(row.y > 2.5F, std::abs(over) < 2.4F) << rotation << ' ' << over << ' ' << row.y;
+      for (const float aside : {-2.5F, -2.3F, 0.0F, 2.3F, 2.5F}) {
+        const bool alongX = rotation % 2 == 0;
+        const Row row =
+            RunFrom({alongX ? aside : 0, 1 + height, alongX ? 12.4F : 12.4F + aside}, "60 -")
+                .back();
+        EXPECT_TRUE(row.onGround);
+        // It lies 0.4 above the middle of the slope, seen along it.
+        const double expected = std::abs(aside) < 2.4F ? 1 + height * 0.6 : 1;
+        EXPECT_NEAR(row.y, expected, 0.1) << height << ' ' << rotation << ' ' << aside;
+      }
     }
   }
 }
@@ -126,6 +102,9 @@ TEST_F(RampDriveTest, SidesAndRisersStopSideways) {
     // The last one's low edge is here.
     EXPECT_TRUE(rotation == 3 ? row.y > 2 : std::abs(row.x + 1.599F) < kNear) << rotation;
   }
+  AddRamp({2, 1, 0}, {2, 4, 20}, 1);
+  AddBlock({4, 1, 0}, {6, 4, 20});
+  EXPECT_NEAR(Last(kLand + "60 right").y, 5.001, kNear) << "however steep, a slope does not";
 }
 
 }  // namespace

@@ -7,6 +7,23 @@ namespace {
 
 using DriveTest = PlayTest;
 
+TEST(DriveScript, HasCommentsAndBlankLinesAndNamesTheBadOne) {
+  const auto runs = track_tool::ParseScript("# a drive\n\n 30 up \r\n\t7 left+jump # hop\n5 -");
+  ASSERT_EQ(runs.size(), 3U);
+  EXPECT_EQ(runs[1].frames, 7);
+  EXPECT_EQ(runs[1].held, (std::vector<uint8_t>{scancode::kLeft, scancode::kSpace}));
+  for (const std::string bad :
+       {"up", "3", "3 up down", "x up", "3x up", "-3 up", "0 up", "1.5 up", "9999999999 up",
+        "3 fly", "3 up+", "3 +up", "3 up++down", "3 Up", "3 -+up", "3 up + down"}) {
+    try {
+      track_tool::ParseScript("1 up\n# fine\n" + bad + "\n");
+      ADD_FAILURE() << bad;
+    } catch (const track_tool::ScriptError& failure) {
+      EXPECT_TRUE(std::string(failure.what()).starts_with("line 3: ")) << bad;
+    }
+  }
+}
+
 TEST_F(DriveTest, FallsUnderBothGravitiesAndStartsOver) {
   AddBlock({100, 0, 100}, {1, 1, 1});
   for (const double gravity : {0.025, 0.0125}) {
@@ -15,8 +32,7 @@ TEST_F(DriveTest, FallsUnderBothGravitiesAndStartsOver) {
     int end = 1;
     while (3.5 - gravity * end * (end - 1) / 2 >= -40) ++end;
     const auto rows = Run(std::to_string(end + 1) + " -");
-    EXPECT_NEAR(rows[9].vv, -gravity * 10, kNear);
-    EXPECT_NEAR(rows[9].y, 3.5 - gravity * 55, kNear);
+    EXPECT_TRUE(Near({rows[9].vv, rows[9].y}, {-gravity * 10, 3.5 - gravity * 55}));
     EXPECT_EQ(FirstWith(rows, "fall").frame, end);
     EXPECT_NEAR(rows.back().y, 3.5 - gravity, kNear) << "the next frame starts over";
   }
@@ -32,16 +48,17 @@ TEST_F(DriveTest, LandsAndJumpsWheneverItStands) {
   EXPECT_NEAR(rows[kLanding + 12].y, 1.001 + 0.35 * 13 - 0.025 * 91, kNear);
   EXPECT_TRUE(rows[kLanding + 27].onGround) << "the parabola is back after 28 frames";
   EXPECT_NEAR(rows[kLanding + 28].vv, 0.325, kNear) << "and the key is still held";
+  for (const float right : {-0.39F, -0.41F}) {
+    Document.Blocks[0].scaleX(right + 20);
+    EXPECT_EQ(Last(kLand).onGround, right == -0.39F) << "its left corners, at -0.4, are enough";
+  }
 }
 
 TEST_F(DriveTest, SpeedsUpToTheCapAndBrakes) {
   AddFloor();
   const auto rows = Run("40 up\n5 -\n20 down");
   EXPECT_NEAR(rows[9].z, 1 + 0.02 * 55, kNear);
-  EXPECT_EQ(rows[29].fv, 0.6F);
-  EXPECT_EQ(rows[44].fv, 0.6F) << "no friction";
-  EXPECT_EQ(rows.back().fv, 0);
-  EXPECT_NEAR(DirectX::CameraPosition.z, -18 + (rows.back().z - 1), 1e-4);
+  EXPECT_TRUE(Near({rows[29].fv, rows[44].fv, rows.back().fv}, {0.6, 0.6, 0})) << "no friction";
 }
 
 TEST_F(DriveTest, AWallStopsTheSlowAndExplodesTheFast) {
@@ -57,170 +74,112 @@ TEST_F(DriveTest, AWallStopsTheSlowAndExplodesTheFast) {
   EXPECT_EQ(crash.frame, 47);
   EXPECT_NEAR(crash.z, 19.9, 1e-4) << "an exploding car does not move";
   // Picture 2 at once, then one every third frame: picture 16 after 42 more, death one later.
-  EXPECT_FALSE(rows[46 + 42].dead);
-  EXPECT_TRUE(rows[46 + 43].dead);
-  EXPECT_FALSE(rows[46 + 44].exploding);
+  EXPECT_TRUE(!rows[46 + 42].dead && rows[46 + 43].dead && !rows[46 + 44].exploding);
   EXPECT_EQ(rows[46 + 44].z, 1);
 }
 
-TEST_F(DriveTest, BumpsItsHead) {
+TEST_F(DriveTest, BumpsItsHeadAndOnlyMeetsWhatFacesIt) {
   AddFloor();
   AddBlock({-2, 3, 0}, {4, 1, 40});
-  track_tool::Drive drive;
-  Player.PosY(kStanding);
-  const auto rows = Continue(drive, "2 -\n6 jump");
+  const auto rows = RunFrom({0, kStanding, 1}, "2 -\n6 jump");
   EXPECT_NEAR(rows[5].y, 1.001 + 0.325 + 0.3 + 0.275 + 0.25, kNear);
-  EXPECT_NEAR(rows[6].y, 3 - 0.8 - 0.001, kNear);
-  EXPECT_EQ(rows[6].vv, 0);
-  EXPECT_NEAR(rows[7].vv, -0.025, kNear);
-}
+  EXPECT_TRUE(Near({rows[6].y, rows[6].vv, rows[7].vv}, {3 - 0.8 - 0.001, 0, -0.025}));
 
-TEST_F(DriveTest, PassesTopsUpwardsAndBottomsDownwards) {
-  AddBlock({-2, 1, 0}, {4, 2, 20});
-  track_tool::Drive drive;
-  Player.PosY(2.95F);
-  Player.verticalvelocity(0.35F);
-  EXPECT_NEAR(Continue(drive, "1 -").back().y, 2.95 + 0.325, kNear);
-  Player.PosY(0.25F);
-  Player.verticalvelocity(-0.05F);
-  EXPECT_NEAR(Continue(drive, "1 -").back().y, 0.25 - 0.075, kNear);
+  for (const auto& [y, speed] : {std::pair{3.95F, 0.35F}, {2.25F, -0.05F}}) {
+    PlaceCar({0, y, 1});
+    Player.verticalvelocity(speed);
+    EXPECT_NEAR(Continue("1 -").back().y, y + speed - 0.025, kNear) << "passes";
+  }
 }
 
 TEST_F(DriveTest, SidesStopIt) {
   AddFloor();
   AddBlock({2, 1, 0}, {1, 3, 20});
   AddBlock({-3, 1, 0}, {1, 3, 20});
-  EXPECT_NEAR(Last("30 right").x, 1.599, kNear);
-  EXPECT_NEAR(Last("30 left").x, -1.599, kNear);
+  EXPECT_TRUE(Near({Last("30 right").x, Last("30 left").x}, {1.599, -1.599}));
   const auto rows = Run("5 right\n1 -\n2 left+right");
-  EXPECT_NEAR(rows[4].x, 0.6, kNear);
-  EXPECT_EQ(rows[5].hv, 0);
-  EXPECT_EQ(rows[7].hv, 0.12F) << "right is answered after left";
+  EXPECT_TRUE(Near({rows[4].x, rows[5].hv, rows[7].hv}, {0.6, 0, 0.12})) << "right is later";
 }
 
 TEST_F(DriveTest, SlidesOnIce) {
   AddFloor(clsblock::Ice);
   const auto rows = Run(kLand + "5 right+up\n10 -\n1 left\n3 down\n1 jump\n1 -");
-  EXPECT_TRUE(rows[kLanding - 1].onIce);
-  EXPECT_EQ(rows[kLanding + 14].hv, 0.12F) << "without steering the slide goes on";
-  EXPECT_EQ(rows[kLanding + 15].hv, -0.12F);
+  EXPECT_TRUE(rows[kLanding - 1].onIce && !rows[kLanding + 19].onIce);
+  // Without steering the slide goes on; in the air steering is what it always was.
+  EXPECT_TRUE(Near({rows[kLanding + 14].hv, rows[kLanding + 15].hv, rows[kLanding + 20].hv},
+                   {0.12, -0.12, 0}));
   EXPECT_NEAR(rows[kLanding + 18].fv, 0.1 - 3 * 0.01, kNear) << "weak brakes";
-  EXPECT_FALSE(rows[kLanding + 19].onIce);
-  EXPECT_EQ(rows[kLanding + 20].hv, 0) << "in the air steering is what it always was";
 }
 
-TEST_F(DriveTest, PadsThrowAndDriveIt) {
+TEST_F(DriveTest, PadsThrowAndDriveItAndKillPadsWin) {
   AddFloor(clsblock::JumpPad);
   const Row thrown = Last(kLand);
-  EXPECT_EQ(thrown.vv, 0.45F);
   EXPECT_FALSE(thrown.onGround);
-  EXPECT_NEAR(thrown.y, 3.5 - 0.025 * 91 + 0.45, kNear);
-  EXPECT_NEAR(Document.Blocks[0].Ypos(), 0, kNear) << "s = -1: the bounce begins";
+  EXPECT_TRUE(
+      Near({thrown.vv, thrown.y, Document.Blocks[0].Ypos()}, {0.45, 3.5 - 0.025 * 91 + 0.45, 0}));
   Document.Blocks[0].changeactioncode(clsblock::TurboPad);
   const auto rows = Run(kLand + "5 up\n1 down");
-  EXPECT_EQ(rows[kLanding - 1].fv, 1);
-  EXPECT_EQ(rows[kLanding + 5].fv, 1) << "braking on the pad is answered by the pad";
-}
-
-TEST_F(DriveTest, KillWinsOverPlainAtTheSameHeight) {
-  AddFloor();
-  AddFloor(clsblock::InstantKill);
+  EXPECT_TRUE(Near({rows[kLanding - 1].fv, rows[kLanding + 5].fv}, {1, 1})) << "braking or not";
+  AddFloor(clsblock::InstantKill);  // at the same height
   EXPECT_EQ(FirstWith(Run("20 -"), "explode").frame, kLanding);
 }
 
 TEST_F(DriveTest, RidesAFallingBlock) {
   AddFloor(clsblock::FallingBlock);
   const auto rows = Run("40 -");
-  for (int n = kLanding; n <= 40; ++n) {
-    const int falls = n - kLanding;
-    const Row& row = rows[static_cast<size_t>(n - 1)];
-    EXPECT_NEAR(row.y, 1 - 0.025 * falls * (falls + 1) / 2, 1e-4) << "the top before its next fall";
+  for (size_t falls = 0; falls + kLanding <= 40; ++falls) {
+    const double top = 1 - 0.0125 * static_cast<double>(falls * (falls + 1));
+    EXPECT_NEAR(rows[kLanding + falls - 1].y, top, 1e-4) << "before its next fall";
   }
 }
 
-TEST_F(DriveTest, WinningEndsTheUpdateAtOnce) {
-  AddFloor(clsblock::WinLevel);
-  AddStar(0, 1, 0);
-  track_tool::Drive drive;
-  Continue(drive, "13 -");
-  Player.Posz(0.5F);
-  const Row win = Continue(drive, "1 -").back();
-  EXPECT_STREQ(win.event, "win");
-  EXPECT_NEAR(win.y, kStanding, kNear);
-  EXPECT_EQ(win.stars, 0);
-}
-
-TEST_F(DriveTest, HalfOverAnEdgeStillStands) {
-  AddBlock({-3, 0, 0}, {2.61F, 1, 20});
-  EXPECT_TRUE(Last(kLand).onGround) << "the left corners, at -0.4, are above it";
-  Document.Blocks[0].scaleX(2.59F);
-  EXPECT_FALSE(Last(kLand).onGround);
-}
-
-TEST_F(DriveTest, CollectsStarsUntilTheTrackIsRestored) {
+TEST_F(DriveTest, CollectsStarsUntilTheTrackIsRestoredOrWon) {
   AddFloor();
   for (const int z : {8, 12, 16}) AddStar(0, 1, z);
   AddStar(1, 1, 20);
-  track_tool::Drive drive;
-  EXPECT_EQ(Continue(drive, "20 up\n60 -").back().stars, 3) << "one of them one unit aside";
+  EXPECT_EQ(Last("20 up\n60 -").stars, 3) << "one of them one unit aside";
   EXPECT_EQ(Particles.ParticleCount(), 90);
   Player.DeathStatus(true);
-  EXPECT_EQ(Continue(drive, "1 -").back().stars, 0);
+  EXPECT_EQ(Continue("1 -").back().stars, 0);
   EXPECT_EQ(Particles.ParticleCount(), 0);
+  Document.Blocks[0].changeactioncode(clsblock::WinLevel);
+  const Row win = RunFrom({0, 1.02F, 8.5F}, "1 -").back();
+  EXPECT_NEAR(win.y, kStanding, kNear);
+  EXPECT_EQ(std::pair(std::string(win.event), win.stars), std::pair(std::string("win"), 0))
+      << "winning ends the update before the star here is collected";
 }
 
 TEST_F(DriveTest, StarsAtTheEdgeOfReachStay) {
-  const auto collects = [](float x, float y, float z) {
-    Document.StarCount = -1;
-    Document.Stars.clear();
-    const clsStar& star = AddStar(0, 1, 5);
-    Player.Posx(x);
-    Player.PosY(y);
-    Player.Posz(z);
-    CollisionDetection::CollectStars();
-    return !star.visible();
-  };
-  EXPECT_TRUE(collects(0.79F, 1, 5.5F) && !collects(0.8F, 1, 5.5F));
-  EXPECT_TRUE(collects(-0.79F, 1, 5.5F) && !collects(-0.8F, 1, 5.5F));
-  EXPECT_TRUE(collects(0, 1.79F, 5.5F) && !collects(0, 1.81F, 5.5F));
-  EXPECT_TRUE(collects(0, 0.21F, 5.5F) && !collects(0, 0.19F, 5.5F));
-  EXPECT_TRUE(collects(0, 1, 5.99F) && !collects(0, 1, 6) && !collects(0, 1, 5));
-}
-
-TEST_F(DriveTest, RidesAPlatformThroughItsTurns) {
-  AddBlock({100, 0, 100}, {1, 1, 1});
-  AddPlatform({-2, 0, 0}, {4, 1, 20}, clsMovingPlatform::Right);
-  track_tool::Drive drive;
-  Continue(drive, kLand);
-  const auto offset = [] { return Player.Posx() - Document.Platforms[0].Xpos(); };
-  const float landed = offset();
-  for (int i = 0; i < 350; ++i) {
-    ASSERT_TRUE(Continue(drive, "1 -").back().onGround);
-    ASSERT_NEAR(offset(), landed, 1e-3) << i;
+  for (const float x : {-0.8F, -0.79F, 0.79F, 0.8F}) {
+    for (const float y : {0.19F, 0.21F, 1.79F, 1.81F}) {
+      for (const float z : {5.0F, 5.01F, 5.99F, 6.0F}) {
+        PlaceCar({x, y, z});
+        clsStar& star = AddStar(0, 1, 5);
+        CollisionDetection::CollectStars();
+        EXPECT_EQ(!star.visible(), std::abs(x) < 0.8F && y > 0.2 && y < 1.8 && z > 5 && z < 6)
+            << x << ' ' << y << ' ' << z;
+        star.GetStar();
+      }
+    }
   }
-  Continue(drive, "5 right");
-  EXPECT_NEAR(offset(), landed + 0.6, 1e-3);
 }
 
-TEST_F(DriveTest, AStandingCarDoesNotDriftAtAnySpeedOrDistance) {
+TEST_F(DriveTest, APlatformCarriesItWithoutDriftAtAnySpeedAndDistance) {
   AddBlock({100, 0, 100}, {1, 1, 1});
   AddPlatform({-12, 0, 0}, {24, 1, 20}, clsMovingPlatform::Right);
+  const auto offset = [] { return Player.Posx() - Document.Platforms[0].Xpos(); };
   for (uint8_t speed = 1; speed <= 20; ++speed) {
     for (const uint8_t distance : {uint8_t{1}, uint8_t{3}, uint8_t{10}}) {
       Document.Platforms[0].Mspeed(speed);
       Document.Platforms[0].Mdist(distance);
-      track_tool::Drive drive;
-      const clsMovingPlatform& platform = Document.Platforms[0];
-      const auto offsetAtTheLeftEnd = [&] {
-        do {
-          Continue(drive, "1 -");
-        } while (!platform.GetChangeDir() || platform.Mdir() != clsMovingPlatform::Right);
-        return Player.Posx() - platform.Xpos();
-      };
-      Continue(drive, kLand);
-      const float first = offsetAtTheLeftEnd();
-      offsetAtTheLeftEnd();
-      EXPECT_NEAR(offsetAtTheLeftEnd(), first, 1e-3) << int{speed} << ' ' << int{distance};
+      Run(kLand);
+      const float landed = offset();
+      for (int i = 0; i < 350; ++i) {
+        ASSERT_TRUE(Continue("1 -").back().onGround);
+        ASSERT_NEAR(offset(), landed, 1e-3) << int{speed} << ' ' << int{distance} << ' ' << i;
+      }
+      Continue("5 right");
+      EXPECT_NEAR(offset(), landed + 0.6, 1e-3);
     }
   }
 }

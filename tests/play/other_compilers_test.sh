@@ -7,9 +7,10 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cache=$(command -v ccache || true)
 
-sources=(platform/{clock,controls,d3dx,d3dx_maths,device,dialogs,paths,random,resources,text}.cpp
-  platform/null/*.cpp render/*/*.cpp level/*.cpp play/*.cpp files/*.cpp
-  tools/vorbilax_track/drive_{run,script}.cpp tests/play/trajectory_test.cpp)
+sources=(platform/{clock,controls,d3dx,d3dx_maths,device,dialogs,error_text,paths}.cpp
+  platform/{random,resources,text,whole_file}.cpp platform/null/*.cpp render/*/*.cpp
+  {level,play,files}/*.cpp tools/vorbilax_track/drive_{run,script}.cpp
+  tests/play/trajectory_test.cpp)
 
 for variant in "g++ -O0" "clang++ -O2"; do
   read -r compiler level <<<"$variant"

@@ -1,6 +1,8 @@
 // Tracks built by hand and driven in play mode on the null device.
 #pragma once
 
+#include <cmath>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,10 +13,6 @@
 #include "tests/support/null_editor.h"
 #include "tools/vorbilax_track/drive_run.h"
 #include "tools/vorbilax_track/drive_script.h"
-
-struct Size {
-  float x, y, z;
-};
 
 class PlayTest : public DeviceTest {
  protected:
@@ -33,27 +31,28 @@ class PlayTest : public DeviceTest {
     DirectInput::KeyState = {};
   }
 
-  static clsblock& AddBlock(const Vector3& at, const Size& size, uint8_t kind = clsblock::Normal) {
+  static clsblock& AddBlock(const Vector3& at, const Vector3& size,
+                            uint8_t kind = clsblock::Normal) {
     clsblock& block = Append(Document.Blocks, Document.BlockCount);
     block.create(0, 0, 0, 1, 1, 1);
     block.changeactioncode(kind);
-    return Put(block, at, size, "ABCD");
+    return Put(block, at, size);
   }
   /// Top at height 1, below the car's start and far ahead.
   static clsblock& AddFloor(uint8_t kind = clsblock::Normal) {
     return AddBlock({-20, 0, 0}, {40, 1, 200}, kind);
   }
-  static clsRamp& AddRamp(const Vector3& at, const Size& size, int rotation) {
+  static clsRamp& AddRamp(const Vector3& at, const Vector3& size, int rotation) {
     clsRamp& ramp = Append(Document.Ramps, Document.RampCount);
     ramp.create(0, 0, 0);
     for (int i = 0; i < rotation; ++i) ramp.rotate();
-    return Put(ramp, at, size, "AB");
+    return Put(ramp, at, size);
   }
   /// Swings over 10 units of x, 0.05 a frame.
-  static clsMovingPlatform& AddPlatform(const Vector3& at, const Size& size, uint8_t direction) {
+  static clsMovingPlatform& AddPlatform(const Vector3& at, const Vector3& size, uint8_t direction) {
     clsMovingPlatform& platform = Append(Document.Platforms, Document.PlatformCount);
     platform.create(0, 0, 0);
-    Put(platform, at, size, "ABCD");
+    Put(platform, at, size);
     platform.Mdir(direction);
     platform.Mspeed(5);
     platform.Mdist(10);
@@ -74,18 +73,28 @@ class PlayTest : public DeviceTest {
   }
 
   /// Enters play mode and runs the script; what each frame ended with.
-  static std::vector<Row> Run(const std::string& script) {
-    track_tool::Drive drive;
-    return Continue(drive, script);
+  std::vector<Row> Run(const std::string& script) {
+    drive_.emplace();
+    return Continue(script);
   }
-  static std::vector<Row> Continue(track_tool::Drive& drive, const std::string& script) {
+  std::vector<Row> RunFrom(const Vector3& at, const std::string& script) {
+    drive_.emplace();
+    PlaceCar(at);
+    return Continue(script);
+  }
+  std::vector<Row> Continue(const std::string& script) {
     std::vector<Row> rows;
     for (const track_tool::KeyRun& run : track_tool::ParseScript(script)) {
-      for (int i = 0; i < run.frames; ++i) rows.push_back(drive.Step(KeysOf(run)));
+      for (int i = 0; i < run.frames; ++i) rows.push_back(drive_->Step(KeysOf(run)));
     }
     return rows;
   }
-  static Row Last(const std::string& script) { return Run(script).back(); }
+  static void PlaceCar(const Vector3& at) {
+    Player.Posx(at.x);
+    Player.PosY(at.y);
+    Player.Posz(at.z);
+  }
+  Row Last(const std::string& script) { return Run(script).back(); }
   /// The first row with this event; frame 0 when there is none.
   static Row FirstWith(const std::vector<Row>& rows, const std::string& event) {
     const auto found = std::ranges::find(rows, event, &Row::event);
@@ -98,18 +107,15 @@ class PlayTest : public DeviceTest {
     ++count;
     return objects.emplace_back();
   }
-  /// Some objects count in whole numbers.
   template <typename Object>
-  static Object& Put(Object& object, const Vector3& at, const Size& size, const char* faces) {
-    object.Xpos(static_cast<decltype(object.Xpos())>(at.x));
-    object.Ypos(static_cast<decltype(object.Ypos())>(at.y));
-    object.Zpos(static_cast<decltype(object.Zpos())>(at.z));
-    object.scaleX(static_cast<decltype(object.scaleX())>(size.x));
-    object.scaleY(static_cast<decltype(object.scaleY())>(size.y));
-    object.scaleZ(static_cast<decltype(object.scaleZ())>(size.z));
-    for (; *faces != 0; ++faces) object.Texture("_default.bmp", {*faces}, Document.TextureDir);
+  static Object& Put(Object& object, const Vector3& at, const Vector3& size) {
+    PutPiece(object, at, size);
+    for (const char face : {'A', 'B', 'C', 'D'}) {
+      object.Texture("_default.bmp", {face}, Document.TextureDir);
+    }
     return object;
   }
+  std::optional<track_tool::Drive> drive_;
 };
 
 /// Frames from the start until the car's box stands on a floor at height 1.
@@ -119,3 +125,12 @@ inline const std::string kLand = "14 -\n";
 inline constexpr float kStanding = 1.001F;
 /// How near sums of Singles come to the exact number.
 inline constexpr float kNear = 2e-5F;
+/// Whether the numbers are near what they should be.
+inline testing::AssertionResult Near(const std::vector<double>& seen,
+                                     const std::vector<double>& expected) {
+  for (size_t i = 0; i < expected.size(); ++i) {
+    if (std::abs(seen.at(i) - expected[i]) < kNear) continue;
+    return testing::AssertionFailure() << seen[i] << " instead of " << expected[i];
+  }
+  return testing::AssertionSuccess();
+}

@@ -40,14 +40,13 @@ class TrajectoryTest : public PlayTest {
   /// Mostly forwards, with a taste for jumps.
   static KeyboardState NextKeys(uint32_t& state) {
     KeyboardState keys{};
-    const auto hold = [&](uint8_t key, uint32_t chance) {
+    for (const auto& [key, chance] : {std::pair{scancode::kUp, 190U},
+                                      {scancode::kDown, 40U},
+                                      {scancode::kLeft, 60U},
+                                      {scancode::kRight, 60U},
+                                      {scancode::kSpace, 90U}}) {
       if (Random(state) < chance) keys[key] = kKeyHeld;
-    };
-    hold(scancode::kUp, 190);
-    hold(scancode::kDown, 40);
-    hold(scancode::kLeft, 60);
-    hold(scancode::kRight, 60);
-    hold(scancode::kSpace, 90);
+    }
     return keys;
   }
 };

@@ -5,7 +5,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <string>
+#include <vector>
 
 #include "level/globals.h"
 #include "platform/null/null_platform.h"
@@ -38,41 +40,35 @@ inline std::string ReadBytes(const std::string& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
+/// Gives a piece its place and size; some count in whole numbers.
+template <typename Piece>
+Piece& PutPiece(Piece& piece, const Vector3& at, const Vector3& size) {
+  piece.Xpos(static_cast<decltype(piece.Xpos())>(at.x));
+  piece.Ypos(static_cast<decltype(piece.Ypos())>(at.y));
+  piece.Zpos(static_cast<decltype(piece.Zpos())>(at.z));
+  piece.scaleX(static_cast<decltype(piece.scaleX())>(size.x));
+  piece.scaleY(static_cast<decltype(piece.scaleY())>(size.y));
+  piece.scaleZ(static_cast<decltype(piece.scaleZ())>(size.z));
+  return piece;
+}
+
 class NullEditorTest : public ::testing::Test {
  protected:
   NullEditorTest() {
-    namespace fs = std::filesystem;
-    for (const char* name : {"textures", "backgrounds", "models", "skins", "levels", "misc"}) {
-      fs::create_directory(folder / name);
-    }
-    for (const char* name : {"textures/_default.bmp",
-                             "textures/a.bmp",
-                             "textures/B.bmp",
-                             "textures/\xC3\xBC.bmp",
-                             "textures/AnimationTest_0.bmp",
-                             "textures/AnimationTest_1.bmp",
-                             "textures/AnimationTest_2.bmp",
-                             "textures/AnimationTest_3.bmp",
-                             "textures/notes.txt",
-                             "textures/concrete.bmp",
-                             "textures/_WIN.bmp",
-                             "textures/red.bmp",
-                             "textures/Ice2.bmp",
-                             "textures/Blue With Yellow Dot.bmp",
-                             "textures/Red Cross on Grey.bmp",
-                             "textures/buildingFront.bmp",
-                             "textures/building Side.bmp",
-                             "textures/buildingTop.bmp",
-                             "backgrounds/_default.jpg",
-                             "backgrounds/bk001.jpg",
-                             "backgrounds/bk002.jpg",
-                             "models/orb.x",
-                             "models/player.x",
-                             "misc/starParticle.bmp",
-                             "misc/shadowimage.bmp",
-                             "skins/StarSkin.bmp",
-                             "skins/StarSkin_selected.bmp"}) {
-      WriteBytes(folder / name, "");
+    const std::map<std::string, std::vector<std::string>> files = {
+        {"textures",
+         {"_default.bmp", "a.bmp", "B.bmp", "\xC3\xBC.bmp", "notes.txt", "concrete.bmp", "_WIN.bmp",
+          "red.bmp", "Ice2.bmp", "Blue With Yellow Dot.bmp", "Red Cross on Grey.bmp",
+          "buildingFront.bmp", "building Side.bmp", "buildingTop.bmp", "AnimationTest_0.bmp",
+          "AnimationTest_1.bmp", "AnimationTest_2.bmp", "AnimationTest_3.bmp"}},
+        {"backgrounds", {"_default.jpg", "bk001.jpg", "bk002.jpg"}},
+        {"models", {"orb.x", "player.x"}},
+        {"misc", {"starParticle.bmp", "shadowimage.bmp"}},
+        {"skins", {"StarSkin.bmp", "StarSkin_selected.bmp"}},
+        {"levels", {}}};
+    for (const auto& [kind, names] : files) {
+      std::filesystem::create_directory(folder / kind);
+      for (const std::string& name : names) WriteBytes(folder / kind + "/" + name, "");
     }
     for (int picture = 1; picture <= 16; ++picture) {
       WriteBytes(folder / ("misc/explode" + std::to_string(picture) + ".bmp"), "");
@@ -107,4 +103,13 @@ class NullEditorTest : public ::testing::Test {
 class DeviceTest : public NullEditorTest {
  protected:
   void SetUp() override { StartDevice(); }
+  /// What is on the screen after a frame with this in it.
+  template <typename Draw>
+  const null_platform::Screen& DrawFrame(Draw draw) {
+    DirectX::D3DDevice->BeginScene();
+    draw();
+    DirectX::D3DDevice->EndScene();
+    DirectX::D3DDevice->Present();
+    return world->screen;
+  }
 };

@@ -1,0 +1,241 @@
+// What blocks, ramps and stars do beyond their shape.
+#include "level/AnimatedTextures.h"
+#include "level/backdrop.h"
+#include "level/clsRamp.h"
+#include "level/clsStar.h"
+#include "level/clsblock.h"
+#include "level/kept_track.h"
+#include "level/maths.h"
+#include "tests/support/null_editor.h"
+
+namespace {
+
+class PieceTest : public DeviceTest {
+ protected:
+  void SetUp() override {
+    DeviceTest::SetUp();
+    block.create(0, 0, 0, 1, 1, 1);
+    ramp.create(1, 2, 3);
+    star.load(StarModel());
+  }
+  std::string StarModel() { return paths::InInstallFolder("\\models\\orb.x"); }
+  template <typename Piece>
+  void Texture(Piece& piece, const std::string& name, const std::string& faces) {
+    for (const char face : faces) piece.Texture(name, {face}, Document.TextureDir);
+  }
+  std::string BlockTextures() {
+    return block.GetTextureA() + ' ' + block.GetTextureB() + ' ' + block.GetTextureC() + ' ' +
+           block.GetTextureD();
+  }
+  template <typename Piece>
+  static std::vector<uint32_t> Colours(const Piece& piece, const std::vector<size_t>& vertices) {
+    std::vector<uint32_t> colours;
+    for (const size_t i : vertices) colours.push_back(piece.GeometryVertices()[i].colour);
+    return colours;
+  }
+  /// First vertex, number of vertices and whether it is the texture of the first one.
+  using Draws = std::vector<std::tuple<uint32_t, uint32_t, bool>>;
+  template <typename Piece>
+  Draws DrawsOf(Piece& piece) {
+    Draws draws;
+    const auto& commands = DrawFrame([&] { piece.draw(); }).commands;
+    for (const Command& draw : commands) {
+      const bool same = draw.texture == commands[0].texture;
+      draws.emplace_back(draw.firstVertex, draw.vertexCount, same);
+    }
+    return draws;
+  }
+  void DrawBlock() {
+    DrawFrame([this] { block.draw(); });
+  }
+  clsblock block;
+  clsRamp ramp;
+  clsStar star;
+};
+
+using Colour = std::vector<uint32_t>;
+
+TEST_F(PieceTest, SettersRefuseSilently) {
+  block.create(0, -5, 7.5F, 1, 1, 1);
+  EXPECT_EQ(std::tuple(block.Ypos(), block.Zpos(), block.scaleZ()), std::tuple(-5, 8, 0.9F))
+      << "create checks no ranges and takes a tenth off the depth";
+  block.create(0, 0, 2.5F, 1, 1, 1);
+  EXPECT_EQ(block.Zpos(), 2) << "halves to even";
+  for (const float y : {-0.99F, -1.0F}) block.Ypos(y);
+  for (const int z : {0, -1}) block.Zpos(z);
+  block.scaleX(0);
+  block.scaleY(-3);
+  EXPECT_EQ(std::tuple(block.Ypos(), block.Zpos(), block.scaleX(), block.scaleY()),
+            std::tuple(-0.99F, 0, 1, 1));
+
+  EXPECT_EQ(std::tuple(ramp.scaleX(), ramp.scaleY(), ramp.scaleZ()), std::tuple(1, 1, 1));
+  const auto move = [](auto& piece, int to) {
+    piece.Xpos(to);
+    piece.Ypos(to);
+    piece.Zpos(to);
+    return std::tuple(piece.Xpos(), piece.Ypos(), piece.Zpos());
+  };
+  EXPECT_EQ(move(ramp, -1), std::tuple(-1, 2, 3));
+  EXPECT_EQ(move(ramp, 0), std::tuple(0, 0, 0));
+  EXPECT_EQ(move(star, -1), std::tuple(-1, 0, 0));
+  EXPECT_EQ(move(star, 5), std::tuple(5, 5, 5));
+  EXPECT_EQ(move(star, 0), std::tuple(0, 0, 0));
+  ramp.scaleX(-2);
+  EXPECT_EQ(ramp.scaleX(), -2);
+}
+
+TEST_F(PieceTest, StretchIsSeenAtTheNextSizeOrAtOnce) {
+  const auto frontRepeats = [this] {  // those of the front's right lower corner
+    return std::pair(block.GeometryVertices()[4].tu, block.GeometryVertices()[4].tv);
+  };
+  using UV = std::pair<float, float>;
+  PutPiece(block, {0, 0, 0}, {4, 2, 1});
+  block.ScaleTextureSide(2);
+  EXPECT_EQ(frontRepeats(), UV(4, 2)) << "the property alone changes nothing";
+  block.scaleX(5);
+  EXPECT_EQ(frontRepeats(), UV(2, 2)) << "the other coordinate stays";
+  block.AlignTexureCoords(1, 0);
+  EXPECT_EQ(frontRepeats(), UV(5, 2));
+  EXPECT_EQ(block.TextAlignSide(), 0);
+  EXPECT_THROW(block.AlignTexureCoords(1, 256), std::overflow_error);
+  EXPECT_EQ(frontRepeats(), UV(256, 256)) << "the coordinates come first";
+}
+
+TEST_F(PieceTest, ColoursFollowSizeAndSelection) {
+  const std::vector<size_t> blockVertices = {0, 2, 7, 17, 18, 23}, rampVertices = {0, 5, 6, 17};
+  const Colour flat = {0x9A9A9A, 0x9A9A9A, 0x9A9A9A, 0x9A9A9A, 0xFFFFFF, 0xFFFFFF};
+  EXPECT_EQ(Colours(block, blockVertices), flat);
+  block.scaleX(2);
+  EXPECT_EQ(Colours(block, blockVertices),
+            (Colour{0xBBBBBB, 0x9A9A9A, 0x9A9A9A, 0x9A9A9A, 0xFFFFFF, 0xFFFFFF}))
+      << "only the upper edge of the front, which spans x";
+  block.SelectBlock();
+  EXPECT_EQ(Colours(block, blockVertices), Colour(6, 0x888888));
+  block.UnSelectBlock();
+  EXPECT_EQ(Colours(block, blockVertices), flat);
+
+  const Colour plain = {0xFFFFFF, 0xFFFFFF, 0x9A9A9A, 0x9A9A9A};
+  EXPECT_EQ(Colours(ramp, rampVertices), plain);
+  ramp.SelectRamp();
+  EXPECT_EQ(Colours(ramp, rampVertices), Colour(4, 0x888888));
+  ramp.UnSelectramp();
+  EXPECT_EQ(Colours(ramp, rampVertices), plain);
+}
+
+TEST_F(PieceTest, PlanesFollowAMoveAtTheNextRefresh) {
+  block.Xpos(5);
+  EXPECT_EQ(block.GetCollisionPlane(1).d, 0.0F);
+  block.SelectBlock();
+  EXPECT_EQ(block.GetCollisionPlane(1).d, 5.0F);
+  EXPECT_THROW(block.GetCollisionPlane(0), std::out_of_range);
+  EXPECT_THROW(block.GetPlaneNormal(6), std::out_of_range);
+  EXPECT_THROW(ramp.GetCollisionPlane(0), std::out_of_range);
+  EXPECT_THROW(ramp.GetPlaneNormal(7), std::out_of_range);
+}
+
+TEST_F(PieceTest, DrawsItsFacesScaledThenMoved) {
+  block.create(1, 2, 3, 4, 5, 6.1F);
+  Texture(block, "a.bmp", "aBcD");
+  Texture(block, "B.bmp", "D");
+  EXPECT_EQ(DrawsOf(block), (Draws{{0, 6, true}, {6, 6, true}, {12, 6, true}, {18, 6, false}}))
+      << "textures of the front, left, right and top";
+  ASSERT_EQ(world->screen.worlds.size(), 1U);
+  Vector3 corner;
+  maths::TransformCoord(corner, {1, 1, 1}, world->screen.worlds[0]);
+  EXPECT_EQ(corner, (Vector3{5, 7, 9}));
+  Texture(ramp, "a.bmp", "A");
+  Texture(ramp, "B.bmp", "bC");
+  EXPECT_EQ(ramp.GetTextureA() + ramp.GetTextureB(), "a.bmpB.bmp");
+  EXPECT_EQ(DrawsOf(ramp), (Draws{{0, 6, true}, {6, 3, false}, {9, 3, false}, {12, 6, false}}));
+}
+
+TEST_F(PieceTest, TexturesThatCannotBeLoadedKeepTheFace) {
+  Texture(block, "a.bmp", "a");
+  EXPECT_THROW(Texture(block, "none.bmp", "A"), PlatformError);
+  Texture(block, "B.bmp", "E@`e");
+  EXPECT_EQ(BlockTextures(), "a.bmp   ");
+  std::filesystem::remove(folder / "skins/StarSkin_selected.bmp");
+  EXPECT_THROW(star.selectstar(), PlatformError);
+  std::filesystem::remove(folder / "models/orb.x");
+  EXPECT_THROW(star.load(StarModel()), PlatformError);
+  EXPECT_TRUE(ShowBackdrop("bk002.jpg") && ShowBackdrop("_bk001.jpg") &&
+              !ShowBackdrop("_gone.jpg"));
+  EXPECT_EQ(Document.Background.Name(), folder / "backgrounds/bk001.jpg");
+}
+
+TEST_F(PieceTest, ATakenTrackLeavesNone) {
+  Document.BlockCount = Document.RampCount = Document.PlatformCount = Document.StarCount = 7;
+  TakeTrack();
+  EXPECT_EQ((std::array{Document.BlockCount, Document.RampCount, Document.PlatformCount,
+                        Document.StarCount}),
+            (std::array{-1, -1, -1, -1}));
+}
+
+TEST_F(PieceTest, AnimatedFacesStepThroughTheFrames) {
+  Texture(block, "AnimationTest_2.bmp", "AD");
+  Texture(block, "a.bmp", "B");
+  block.UpdateAnimatedTexture();
+  EXPECT_EQ(BlockTextures(), "AnimationTest_3.bmp a.bmp  AnimationTest_3.bmp");
+  block.UpdateAnimatedTexture();
+  EXPECT_EQ(BlockTextures(), "AnimationTest_0.bmp a.bmp  AnimationTest_0.bmp");
+  EXPECT_FALSE(AnimatedTextures::IsAnimatedTexture("animationtest_0.bmp"));
+  EXPECT_EQ(AnimatedTextures::NextAnimationFrame("a.bmp"), "");
+}
+
+TEST_F(PieceTest, BounceRisesByOneAndEndsAfter22Frames) {
+  block.Bounce();
+  float highest = 0;
+  for (int frame = 1; frame <= 21; ++frame) {
+    DrawBlock();
+    highest = std::max(highest, block.Ypos());
+  }
+  EXPECT_NEAR(highest, 1.0, 1e-6);
+  EXPECT_GT(block.fallvel(), 0) << "still on its way down";
+  for (int frame = 22; frame <= 23; ++frame) {
+    DrawBlock();
+    EXPECT_EQ(std::pair(block.Ypos(), block.fallvel()), std::pair(0.0F, 0.0F)) << frame;
+  }
+}
+
+TEST_F(PieceTest, FallAcceleratesByTheTracksGravity) {
+  Document.Gravity = 0.025F;
+  block.Fall();
+  DrawBlock();
+  EXPECT_FLOAT_EQ(block.Ypos(), -0.025F);
+  EXPECT_FLOAT_EQ(block.GetCollisionPlane(3).d, -(1 - 0.025F));
+  DrawBlock();
+  EXPECT_FLOAT_EQ(block.Ypos(), -0.075F);
+  EXPECT_FLOAT_EQ(block.fallvel(), 0.05F);
+}
+
+TEST_F(PieceTest, StarsSpinByFiveUntilTheyAreCollected) {
+  const auto angleAfter = [this](int frames) {
+    for (int i = 0; i < frames; ++i) DrawFrame([this] { star.draw(); });
+    return std::pair(star.SpinAngle(), world->screen.commands.size());
+  };
+  EXPECT_EQ(angleAfter(72), std::pair(360, size_t{1}));
+  EXPECT_EQ(angleAfter(1), std::pair(1, size_t{1})) << "starts again at one";
+  EXPECT_EQ(angleAfter(1), std::pair(6, size_t{1}));
+  star.GetStar();
+  EXPECT_EQ(angleAfter(1), std::pair(6, size_t{0}));
+}
+
+TEST_F(PieceTest, StarsHaveTheFacesOfASmallBox) {
+  star.Xpos(2);
+  star.Ypos(1);
+  star.Zpos(30);
+  const float low = 1.6F, high = 2.4F, front = 29.6F, back = 30.4F;
+  const std::pair<CollisionPlane, clsStar::Corners> faces[] = {
+      {{-1, 0, 0, 2}, {{{low, 2, front}, {low, 2, back}, {low, 1, back}, {low, 1, front}}}},
+      {{1, 0, 0, -3}, {{{high, 2, front}, {high, 2, back}, {high, 1, back}, {high, 1, front}}}},
+      {{0, 1, 0, -2}, {{{1.5F, 2, 29.5F}, {1.5F, 2, 30.5F}, {2.5F, 2, 30.5F}, {2.5F, 2, 29.5F}}}},
+      {{0, 0, -1, 30}, {{{low, 1, front}, {low, 2, front}, {high, 2, front}, {high, 1, front}}}},
+      {{}, {}}};
+  for (int16_t plane = 1; plane <= 5; ++plane) {
+    EXPECT_EQ(std::pair(star.GetCollisionPlanes(plane), star.GetFaceCorners(plane)),
+              faces[plane - 1])
+        << plane;
+  }
+}
+
+}  // namespace
