@@ -54,6 +54,7 @@ struct Block {
 std::vector<Block> MakeTrack(const Device& device) {
   std::mt19937 random(7);
   std::vector<TexturePtr> textures;
+  textures.reserve(kTextures);
   for (int i = 0; i < kTextures; ++i) textures.push_back(MakeTexture(random));
   const auto vertices = BoxVertices();
   std::vector<Block> track;

@@ -88,7 +88,7 @@ std::string TemporaryName() {
 
 void RemoveStrayFiles(const std::string& folder) {
   for (const std::string& name : paths::EntryNames(folder, true)) {
-    const std::string path = folder + "/" + name;
+    const std::string path = (std::filesystem::path(folder) / name).string();
     if (IsStray(path, name)) CurrentFileCalls().Remove(path.c_str());
   }
 }

@@ -1,5 +1,7 @@
 #include "platform/gl/texture_arrays.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <numeric>
 
 #include "platform/gl/texture_upload.h"

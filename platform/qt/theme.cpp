@@ -45,7 +45,9 @@ QPalette Palette() {
 }  // namespace
 
 void ApplyTheme(QApplication& application) {
-  application.setStyle(new FlatStyle);  // NOLINT: the application owns its style
+  // The application owns its style.
+  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
+  application.setStyle(new FlatStyle);
   application.setPalette(Palette());
   application.setFont(Font(kMenuPixels));
   QToolTip::setFont(Font(kControlPixels));
