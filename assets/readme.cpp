@@ -30,6 +30,9 @@ File    New                  F2
 Edit    Copy                 Ctrl+C
         Cut                  Ctrl+X
         Paste                Ctrl+V
+        Undo                 Ctrl+Z
+        Redo                 Ctrl+Y or Ctrl+Shift+Z
+        Duplicate            Ctrl+D
 
 Mode    Play Mode!           F3
         Edit Mode            F4
@@ -75,12 +78,17 @@ Shift+Up, Shift+Down  move the camera along the track; so does the scroll bar
 
 EDITING WITH THE MOUSE
 ----------------------
-Click                 pick a block
+Click                 pick a piece
+Drag                  move it over the ground, in whole units; with Shift up
+                      and down; Escape puts it back
+Wheel                 move the camera along the track
 Right click           show what kind a block is; a platform or ramp is
                       painted whole
 Shift+right click     paint the one face under the pointer
 Double click on a     paint the selection with it
 texture
+
+Duplicate puts a copy of the selected piece directly behind it.
 
 Moving platforms must stand still before they can be altered: choose
 "Pause Platforms" first.
@@ -98,9 +106,26 @@ falling blocks do not wait. Red crosses kill. Collect the stars on the way.
 Whoever falls off starts again.
 
 
+NOTHING YOU DO IS FINAL
+-----------------------
+Every change of the track can be undone and done again, step by step: a new
+track and an opened one too, and after a drive as well. A held key, a held
+arrow of the panel and a drag are one step each.
+
+While the track differs from its file, a safety copy is made every minute, and
+before a new track, opening, driving and leaving. So is one of what a save
+would write over although you have not seen it. The copies lie in
+
+    levels/backup
+
+or, where that cannot be written, in .local/state/vorbilax-level-editor/backup
+in your home folder. They bear the track's name and the time; the newest 20 of
+a track stay. Open one as you open any track; saving it then asks for a name.
+
+
 THE FOLDERS
 -----------
-levels        the tracks
+levels        the tracks; in levels/backup their safety copies
 textures      what blocks can wear: add your own .bmp pictures
 backgrounds   the pictures behind the tracks
 models, skins the car and the star
