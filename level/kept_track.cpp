@@ -5,8 +5,12 @@
 #include "level/backdrop.h"
 
 KeptTrack TakeTrack() {
-  return {std::exchange(static_cast<PieceCollections&>(Document), {}), Document.Gravity,
-          Document.BackgroundName, Document.TrackSettings, Document.TrackRecords, Document.Origin};
+  return {std::exchange(static_cast<PieceCollections&>(Document), {}),
+          Document.Gravity,
+          Document.BackgroundName,
+          Document.TrackSettings,
+          Document.TrackRecords,
+          Document.Origin};
 }
 
 void PutTrack(KeptTrack&& track) {

@@ -62,7 +62,8 @@ for file in "$work"/f*.png; do
 done
 convert "${files[@]}" -resize 480x -colors 48 +dither -layers optimize -loop 0 "$docs/build-and-drive.gif"
 
-# A finished track with a piece at work.
+# A finished track with a piece at work; the sparks of the star are gone by then.
+sleep 12
 xdotool key ctrl+o
 sleep 1
 xdotool type --delay 5 "$work/install/levels/4 Skyline Shuttle.lvl"
