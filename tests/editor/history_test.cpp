@@ -66,7 +66,7 @@ class HistoryTest : public EditorTest {
 
 void HistoryTest::RandomCommand(std::mt19937& random) {
   const auto upTo = [&random](size_t count) { return static_cast<size_t>(random() % count); };
-  switch (upTo(14)) {
+  switch (upTo(15)) {
     case 0:
       return c.mnu_insert.items[upTo(c.mnu_insert.items.size())]->UserClicks();
     case 1:
@@ -110,6 +110,16 @@ void HistoryTest::RandomCommand(std::mt19937& random) {
       if (random() % 2 == 0) return c.mnu_New.UserClicks();
       boxes.answers = {opened_};
       return c.mnu_load.UserClicks();
+    case 13: {  // pick, tell, paint a face or a piece, drag
+      const auto anywhere = [&] { return static_cast<float>(120 + upTo(300)); };
+      c.viewport.UserPresses(random() % 2 == 0 ? 1 : 2, static_cast<int>(upTo(2)), anywhere(),
+                             anywhere());
+      for (size_t moves = upTo(4); moves > 0; --moves) {
+        c.viewport.UserDrags(static_cast<int>(upTo(2)), anywhere(), anywhere());
+      }
+      if (upTo(3) == 0) c.frmMain.UserPressesKey(27, 0);
+      return c.viewport.UserReleases();
+    }
     default:
       c.mnu_playmode.UserClicks();
       for (int frame = 0; frame < 3; ++frame) PassAfter(41);
@@ -119,7 +129,7 @@ void HistoryTest::RandomCommand(std::mt19937& random) {
 
 TEST_F(HistoryTest, UndoingAndRedoingEverythingIsExact) {
   const char* wanted = std::getenv("VORBILAX_HISTORY_SEEDS");
-  const unsigned seeds = wanted != nullptr ? static_cast<unsigned>(std::atoi(wanted)) : 60;
+  const unsigned seeds = wanted != nullptr ? static_cast<unsigned>(std::atoi(wanted)) : 200;
   c.mnu_MovingPlatform.UserClicks();
   c.mnu_Ramp.UserClicks();
   opened_ = folder / "levels/other.lvl";
@@ -219,6 +229,23 @@ TEST_F(HistoryTest, UndoShowsWhatItChanged) {
   c.VScroll1.Value(995);
   c.mnu_redo.UserClicks();
   EXPECT_EQ(Words(Document.ObjectSelected, DirectX::CameraTarget.z), "0 5") << "it was in sight";
+}
+
+TEST_F(HistoryTest, AFullTrackIsNoException) {
+  Document.Blocks.resize(32767, Document.Blocks[0]);
+  Document.BlockCount = 32766;
+  const std::string track = Bytes();
+  c.mnu_block.UserClicks();
+  const std::string full = Bytes();
+  c.mnu_block.UserClicks();
+  c.mnu_duplicate.UserClicks();
+  EXPECT_EQ(boxes.messages, Texts(2, selection::kTrackFullText));
+  Press(46);
+  c.mnu_undo.UserClicks();
+  EXPECT_EQ(Bytes() == full, true);
+  c.mnu_undo.UserClicks();
+  EXPECT_EQ(Bytes() == track, true);
+  EXPECT_FALSE(c.mnu_undo.Enabled());
 }
 
 TEST_F(HistoryTest, OldStepsGoBeforeMemoryDoes) {
