@@ -57,7 +57,9 @@ fs::path FreeName(const fs::path& folder, const std::string& name, const std::st
   fs::path path = folder / (name + ending);
   std::error_code failure;
   for (int number = 2; fs::exists(path, failure); ++number) {
-    path = folder / (name + " (" + std::to_string(number) + ")" + ending);
+    std::string numbered = name;
+    numbered.append(" (").append(std::to_string(number)).append(")").append(ending);
+    path = folder / numbered;
   }
   return path;
 }
