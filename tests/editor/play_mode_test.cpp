@@ -52,30 +52,6 @@ TEST_F(PlayModeTest, CommandsLeadThroughTheTemporaryFileAndBack) {
   EXPECT_FALSE(std::filesystem::exists(file_));
 }
 
-TEST_F(PlayModeTest, CarFallsOntoTheFirstBlockAndDrives) {
-  Frames(1);
-  const size_t before = Draws();
-  c.mnu_playmode.UserClicks();
-  EXPECT_EQ(Player.PosY(), 3.5F);
-  Frames(1);
-  EXPECT_EQ(Draws(), before + 3) << "the car; of its shadow only what has the block below it";
-  Frames(30);
-  EXPECT_NEAR(Player.PosY(), 1.001, 1e-4);
-  EXPECT_TRUE(CollisionDetection::OnGround);
-  Hold(scancode::kUp);
-  Frames(2);
-  EXPECT_EQ(Player.ForwardVelocity(), 0.04F);
-  EXPECT_NEAR(DirectX::CameraPosition.z, -18 + (Player.Posz() - 1), 1e-5) << "the camera follows";
-  Hold(scancode::kUp, false);
-  Hold(scancode::kSpace);
-  Frames(1);
-  EXPECT_NEAR(Player.verticalvelocity(), 0.325, 1e-6);
-  c.mnu_editmode.UserClicks();
-  Frames(1);
-  EXPECT_EQ(Draws(), before);
-  EXPECT_EQ(DirectX::CameraPosition.z, -18);
-}
-
 TEST_F(PlayModeTest, DeathStartsOverWithTheTrackOfTheBeginning) {
   AddRunningPlatform();
   const std::string track = Bytes();
