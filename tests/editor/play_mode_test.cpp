@@ -1,6 +1,5 @@
 #include <random>
 
-#include "play/CollisionDetection.h"
 #include "play/clsPlayer.h"
 #include "tests/editor/editor_fixture.h"
 
@@ -12,8 +11,6 @@ class PlayModeTest : public EditorTest {
     for (int i = 0; i < count; ++i) PassAfter(41);
   }
   void Hold(uint8_t key, bool held = true) { world->keys[key] = held ? kKeyHeld : 0; }
-  /// Commands of the last frame: the car has one subset here.
-  size_t Draws() const { return world->screen.commands.size(); }
   std::string State() {
     return Words(Document.EditorMode, Document.ObjectSelected, Document.PlatformsPaused,
                  DirectX::CameraPosition.z, Checked());

@@ -1,7 +1,5 @@
 #include "level/maths.h"
 
-#include <algorithm>
-#include <bit>
 #include <cmath>
 
 #include "tests/support/null_editor.h"

@@ -4,8 +4,6 @@
 #include <cmath>
 
 #include "level/maths.h"
-#include "play/end_program.h"
-#include "play/play_frame.h"
 #include "tests/play/play_test.h"
 
 namespace {
