@@ -69,12 +69,6 @@ TEST_F(EditorTest, NewPlatformsEndUpPausedWhateverTheButtonSays) {
       EXPECT_TRUE(Document.PlatformsPaused);
     }
   }
-  c.mnu_playmode.UserClicks();
-  c.mnu_editmode.UserClicks();
-  Select(TypeBlock, 0);
-  c.mnu_copy.UserClicks();
-  c.mnu_Paste.UserClicks();
-  EXPECT_FALSE(Document.PlatformsPaused) << "no platform is new";
 }
 
 TEST_F(EditorTest, NothingIsInsertedInPlayModeOrWhenFullOrWithoutPictures) {

@@ -102,26 +102,6 @@ TEST_F(PanelTest, PauseStartsTheTravelAnewAsPlayDoes) {
   EXPECT_EQ(places[0], places[1]);
 }
 
-TEST_F(PanelTest, RampButtonAndTextureList) {
-  c.mnu_Ramp.UserClicks();
-  c.cmd_ramp.UserClicks();
-  EXPECT_EQ(SelectedLooks(), "1 1 2 turned 1 _default.bmp/_default.bmp");
-  EXPECT_EQ(Marked(), "1 0;");
-  Document.ObjectSelected = false;
-  c.cmd_ramp.UserClicks();
-  c.File1.UserDoubleClicks(1);
-  EXPECT_EQ(Looks(Document.Ramps[0]), "1 1 2 turned 2 _default.bmp/_default.bmp")
-      << "the type is enough to turn, not to paint";
-  EXPECT_EQ(Marked(), "");
-  Document.ObjectSelected = true;
-  Document.EditorMode = PlayMode;
-  c.File1.UserDoubleClicks(1);
-  EXPECT_EQ(Document.Ramps[0].GetTextureA(), "_default.bmp");
-  Document.EditorMode = EditMode;
-  c.File1.UserDoubleClicks(1);
-  EXPECT_EQ(Document.Ramps[0].GetTextureA(), c.File1.Entries()[1]);
-}
-
 TEST_F(PanelTest, KeysMoveResizeAndPaint) {
   for (const auto& [key, placeAndSize] :
        std::vector<std::pair<int, std::string>>{{39, "1 0 0 2 1 2"},

@@ -151,19 +151,4 @@ TEST_F(PickingTest, RightClickTellsKindsAndPaintsWholePieces) {
   EXPECT_EQ(boxes.messages.size(), 2U);
 }
 
-TEST_F(PickingTest, OfEqualDistancesTheFirstKindWins) {
-  const auto expectPicked = [&](int32_t type) {
-    Click(1, 0, 300, 220);
-    EXPECT_EQ(Document.SelectedType, type);
-  };
-  Insert(c.mnu_Star, {0, -1, 9}, {});
-  expectPicked(TypeStar);
-  Insert(c.mnu_Ramp, {-1, -1, 10}, {2, 2, 2}, 2);
-  expectPicked(TypeRamp);
-  Insert(c.mnu_MovingPlatform, {-1, 0, 10}, {2, 2, 2});
-  expectPicked(TypePlatform);
-  AddBlock(10);
-  expectPicked(TypeBlock);
-}
-
 }  // namespace

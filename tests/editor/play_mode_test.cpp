@@ -1,6 +1,5 @@
 #include <random>
 
-#include "play/CollisionDetection.h"
 #include "play/clsPlayer.h"
 #include "tests/editor/editor_fixture.h"
 
@@ -12,8 +11,6 @@ class PlayModeTest : public EditorTest {
     for (int i = 0; i < count; ++i) PassAfter(41);
   }
   void Hold(uint8_t key, bool held = true) { world->keys[key] = held ? kKeyHeld : 0; }
-  /// Commands of the last frame: the car has one subset here.
-  size_t Draws() const { return world->screen.commands.size(); }
   std::string State() {
     return Words(Document.EditorMode, Document.ObjectSelected, Document.PlatformsPaused,
                  DirectX::CameraPosition.z, Checked());
@@ -50,30 +47,6 @@ TEST_F(PlayModeTest, CommandsLeadThroughTheTemporaryFileAndBack) {
   EXPECT_EQ(Document.EditorMode, EditMode);
   EXPECT_EQ(boxes.messages, Texts{FileIO::kNoBlocksText});
   EXPECT_FALSE(std::filesystem::exists(file_));
-}
-
-TEST_F(PlayModeTest, CarFallsOntoTheFirstBlockAndDrives) {
-  Frames(1);
-  const size_t before = Draws();
-  c.mnu_playmode.UserClicks();
-  EXPECT_EQ(Player.PosY(), 3.5F);
-  Frames(1);
-  EXPECT_EQ(Draws(), before + 3) << "the car; of its shadow only what has the block below it";
-  Frames(30);
-  EXPECT_NEAR(Player.PosY(), 1.001, 1e-4);
-  EXPECT_TRUE(CollisionDetection::OnGround);
-  Hold(scancode::kUp);
-  Frames(2);
-  EXPECT_EQ(Player.ForwardVelocity(), 0.04F);
-  EXPECT_NEAR(DirectX::CameraPosition.z, -18 + (Player.Posz() - 1), 1e-5) << "the camera follows";
-  Hold(scancode::kUp, false);
-  Hold(scancode::kSpace);
-  Frames(1);
-  EXPECT_NEAR(Player.verticalvelocity(), 0.325, 1e-6);
-  c.mnu_editmode.UserClicks();
-  Frames(1);
-  EXPECT_EQ(Draws(), before);
-  EXPECT_EQ(DirectX::CameraPosition.z, -18);
 }
 
 TEST_F(PlayModeTest, DeathStartsOverWithTheTrackOfTheBeginning) {

@@ -116,25 +116,6 @@ TEST_F(SelectionTest, APieceIsPastedAsItWasCopiedWhereTheCameraLooks) {
   EXPECT_EQ(Counts(), "0 -1 -1 0") << "the clipboard outlives the track";
 }
 
-TEST_F(SelectionTest, PasteRoundsSizesShowsTheStretchAndPauses) {
-  c.mnu_Paste.UserClicks();
-  EXPECT_EQ(Counts(), "0 -1 -1 -1") << "nothing was copied";
-  EXPECT_TRUE(Document.PlatformsPaused) << "yet the menu's paste pauses";
-  c.mnu_building.UserClicks();
-  LastBlock().ScaleTextureSide(2);
-  LastBlock().scaleX(2.5F);
-  LastBlock().scaleZ(3.5F);
-  c.mnu_copy.UserClicks();
-  c.mnu_Paste.UserClicks();
-  EXPECT_TRUE(SelectedLooks().starts_with("2 4 4 stretch 1 2 kind 10 ")) << "halves to even";
-  EXPECT_EQ(LastBlock().GeometryVertices()[1].tu, 2);
-  EXPECT_EQ(LastBlock().GeometryVertices()[19].tu, 1);
-  std::filesystem::remove(folder / "textures/buildingTop.bmp");
-  c.mnu_Paste.UserClicks();
-  EXPECT_EQ(Counts(), "2 -1 -1 -1");
-  EXPECT_EQ(boxes.messages.size(), 1U);
-}
-
 TEST_F(SelectionTest, DeletingInsideTheRowSendsPlatformsToTheirStarts) {
   for (int i = 0; i < 5; ++i) {
     c.mnu_MovingPlatform.UserClicks();
@@ -156,18 +137,6 @@ TEST_F(SelectionTest, DeletingInsideTheRowSendsPlatformsToTheirStarts) {
   Select(TypePlatform, 1);
   selection::DeleteSelection();
   EXPECT_EQ(Document.Platforms[0].Mdir(), clsMovingPlatform::Right) << "the direction too";
-}
-
-TEST_F(SelectionTest, TheLastBlockMayGoButNothingIsSavedWithoutOne) {
-  selection::DeleteSelection();
-  PassAfter(41);
-  boxes.answers = {folder / "levels/none.lvl"};
-  c.mnu_save.UserClicks();
-  EXPECT_EQ(boxes.messages, Texts{FileIO::kNoBlocksText});
-  EXPECT_FALSE(std::filesystem::exists(folder / "levels/none.lvl"));
-  EXPECT_EQ(Document.CurrentFileName, "");
-  c.mnu_block.UserClicks();
-  EXPECT_EQ(Bytes().size(), 213U);
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 
 #include "files/file_calls.h"
 #include "files/level_bytes.h"
-#include "tests/files/failing_allocation.h"
 #include "tests/files/level_files.h"
 #include "tests/support/null_editor.h"
 
@@ -228,32 +227,6 @@ TEST_F(RefusedReadTest, MeasuresBeyondALong) {
         for (int step = 0; step < 9; ++step) Document.Platforms[0].move();
       }
     }
-  }
-}
-
-TEST_F(RefusedReadTest, NoMemoryAtAnyMoment) {
-  File file = AllKinds();
-  file.names = Counted("_default.bmp") + Counted("Blue With Yellow Dot.bmp");
-  const std::string longer = file.Bytes(), fresh = File().Bytes(), name = "t.lvl";
-  const std::string target = folder / "levels/t.lvl";
-  WriteBytes(target, longer);
-  ASSERT_TRUE(Read(fresh).Ok());
-  bool allServed = false;
-  for (int allocation = 0; !allServed; ++allocation) {
-    servedAllocations = allocation;
-    const FileIO::Result read = FileIO::ReadLevelBytes(longer, name);
-    allServed = std::exchange(servedAllocations, -1) >= 0;
-    EXPECT_TRUE(read.Ok() || read.message == "t.lvl: Cannot allocate memory") << read.message;
-    EXPECT_EQ(Saved(), read.Ok() ? longer : fresh);
-    ASSERT_TRUE(Read(fresh).Ok());
-    servedAllocations = allocation;
-    const FileIO::Result written = FileIO::WriteLevel(target);
-    EXPECT_EQ(read.offset + written.offset, 0U) << "no place in a file";
-    allServed = std::exchange(servedAllocations, -1) >= 0 && allServed;
-    EXPECT_EQ(ReadBytes(target), written.Ok() ? fresh + longer.substr(fresh.size()) : longer);
-    const std::filesystem::directory_iterator files(folder / "levels");
-    EXPECT_EQ(std::distance(begin(files), end(files)), 1) << "nothing left over";
-    WriteBytes(target, longer);
   }
 }
 

@@ -74,20 +74,6 @@ TEST_F(PlatformTest, StandsStillWithoutDirectionOrWhenStopped) {
   EXPECT_EQ(platform.GetVelocity(), (Vector3{0.05F, 0, 0})) << "what it would do";
 }
 
-TEST_F(PlatformTest, ColoursFollowSizeAndPlanesFollowMotion) {
-  const auto frontAndLeft = [this] {
-    return std::pair(platform.GeometryVertices()[0].colour, platform.GeometryVertices()[6].colour);
-  };
-  platform.scaleX(2);
-  platform.scaleY(1);
-  EXPECT_EQ(frontAndLeft(), std::pair(0x9A9A9AU, 0x9A9A9AU)) << "no gradient";
-  platform.scaleZ(1);
-  EXPECT_EQ(frontAndLeft(), std::pair(0x9A9A9AU, 0xFFFFFFU)) << "the front does not span z";
-  EXPECT_EQ(platform.GetCollisionPlane(2), CollisionPlane()) << "created without a width";
-  After(20);
-  EXPECT_EQ(platform.GetCollisionPlane(2), (CollisionPlane{1, 0, 0, -3}));
-}
-
 TEST_F(PlatformTest, ReturnsToItsOriginOrLeg) {
   After(10);
   platform.ResetToOrigin();
@@ -101,16 +87,6 @@ TEST_F(PlatformTest, ReturnsToItsOriginOrLeg) {
   After(30);
   platform.StopAnimation();
   EXPECT_EQ(After(0), State(5, kLeft, false)) << "where the leg began";
-}
-
-TEST_F(PlatformTest, PositionsKeepFractionsAndRefuseDepths) {
-  for (const float value : {2.5F, -1.0F}) {
-    platform.Ypos(value);
-    platform.Zpos(value);
-  }
-  EXPECT_EQ((Vector3{platform.GetInitalXpos(), platform.GetInitalYpos(), platform.GetInitalZpos()}),
-            (Vector3{0, 2.5F, 2.5F}));
-  EXPECT_EQ((Vector3{platform.Xpos(), platform.Ypos(), platform.Zpos()}), (Vector3{0, 2.5F, 2.5F}));
 }
 
 }  // namespace

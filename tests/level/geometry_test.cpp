@@ -7,6 +7,7 @@
 
 #include "level/clsMovingPlatform.h"
 #include "level/clsRamp.h"
+#include "level/clsStar.h"
 #include "level/clsblock.h"
 #include "level/maths.h"
 #include "platform/d3dx_maths.h"
@@ -199,14 +200,6 @@ TEST_F(GeometryTest, PlanesFaceOutwardsAndHoldTheirCorners) {
   }
 }
 
-TEST_F(GeometryTest, GradientsRiseToTheHighEdge) {
-  const float gradients[] = {1 / 3.0F, 0.5F, -1 / 3.0F, -0.5F};
-  for (int rotation = 0; rotation < 4; ++rotation) {
-    EXPECT_FLOAT_EQ(Wedge(rotation, {}, {2, 1, 3}).GetGradient(), gradients[rotation]);
-  }
-  EXPECT_EQ(Wedge(0, {}, {1, 1, 0}).GetGradient(), 0) << "a ramp without length";
-}
-
 /// Box textures lie upright and unmirrored on each face, once per unit or as often as asked.
 TEST_F(GeometryTest, BoxTexturesFollowTheExtents) {
   for (const auto& [stretch, onTop] : {std::pair{0, 0}, {1, 2}, {3, 1}}) {
@@ -230,7 +223,8 @@ TEST_F(GeometryTest, BoxTexturesFollowTheExtents) {
   }
 }
 
-/// The textures of wedges and the bounds of walls follow no law; they stay what they are.
+/// The textures of wedges, the bounds of walls and the faces of stars follow no law; they stay what
+/// they are.
 TEST_F(GeometryTest, WhatFollowsNoLawDoesNotChange) {
   uint64_t hash = 0xCBF29CE484222325U;
   const auto add = [&hash](float value) {
@@ -245,7 +239,16 @@ TEST_F(GeometryTest, WhatFollowsNoLawDoesNotChange) {
       for (const float value : {high.x, high.y, high.z, low.x, low.y, low.z}) add(value);
     }
   }
-  EXPECT_EQ(hash, 9160887181233801468U);
+  clsStar star;
+  star.Xpos(2);
+  for (int16_t number = 1; number <= 5; ++number) {
+    const CollisionPlane plane = star.GetCollisionPlanes(number);
+    for (const float value : {plane.a, plane.b, plane.c, plane.d}) add(value);
+    for (const Vector3& corner : star.GetFaceCorners(number)) {
+      for (const float value : AsPoint(corner)) add(value);
+    }
+  }
+  EXPECT_EQ(hash, 13841223817487561686U);
 }
 
 }  // namespace

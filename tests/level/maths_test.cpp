@@ -1,7 +1,5 @@
 #include "level/maths.h"
 
-#include <algorithm>
-#include <bit>
 #include <cmath>
 
 #include "tests/support/null_editor.h"
@@ -9,17 +7,6 @@
 namespace {
 
 constexpr CollisionPlane kFloor{0, 1, 0, -1};
-
-TEST(Maths, DistanceAndPlanes) {
-  EXPECT_EQ(maths::Distance({0, 0, 0}, {1, 2, 2}), 3.0F);
-  CollisionPlane plane;
-  maths::PlaneFromPoints(plane, {0, 1, 1}, {1, 1, 1}, {0, 1, 0});
-  EXPECT_EQ(plane, kFloor);
-  Vector3 normal{9, 9, 9};
-  maths::FaceNormal({1, 1, 1}, {1, 1, 1}, {2, 1, 1}, normal);
-  EXPECT_EQ(normal, (Vector3{0, 0, 0})) << "three points on a line have no normal";
-  EXPECT_EQ(maths::FloatToLong(1.0F), 0x3F800000);
-}
 
 TEST(Maths, RayMeetsPlaneOnlyWithinItsSegment) {
   Vector3 hit;
@@ -35,15 +22,6 @@ TEST(Maths, RayMeetsPlaneOnlyWithinItsSegment) {
   EXPECT_TRUE(maths::IntersectRayPlane(kFloor, {0, 1, 0}, {1, 1, 0}, hit)) << "starting on it";
 }
 
-TEST(Maths, HitNearTheMiddleSnapsInXOnly) {
-  Vector3 hit;
-  maths::IntersectRayPlane(kFloor, {0.0004F, 5, 0.0004F}, {0, -10, 0}, hit);
-  EXPECT_EQ(hit.x, 0.0F);
-  EXPECT_EQ(hit.z, 0.0004F);
-  maths::IntersectRayPlane(kFloor, {0.002F, 5, 0}, {0, -10, 0}, hit);
-  EXPECT_EQ(hit.x, 0.002F);
-}
-
 TEST(Maths, PointInQuadIsStrictAndClockwise) {
   const std::array<Vector3, 4> c = {{{0, 0, 0}, {0, 1, 0}, {1, 1, 0}, {1, 0, 0}}};
   EXPECT_TRUE(maths::PointInQuad(c[0], c[1], c[2], c[3], {0.5F, 0.5F, 0}));
@@ -52,17 +30,6 @@ TEST(Maths, PointInQuadIsStrictAndClockwise) {
   // A triangle repeats its first corner.
   EXPECT_TRUE(maths::PointInQuad(c[0], c[1], c[2], c[0], {0.3F, 0.6F, 0}));
   EXPECT_FALSE(maths::PointInQuad(c[0], c[1], c[2], c[0], {0.6F, 0.3F, 0}));
-}
-
-TEST(Maths, TransformAndTranslation) {
-  Matrix4 move;
-  maths::MakeTranslationMatrix(move, {1, 2, 3});
-  Vector3 r;
-  maths::TransformCoord(r, {1, 1, 1}, move);
-  EXPECT_EQ(r, (Vector3{2, 3, 4}));
-  move.m[3][3] = 0;
-  maths::TransformCoord(r, {5, 5, 5}, move);
-  EXPECT_EQ(r, (Vector3{2, 3, 4})) << "no perspective division by zero";
 }
 
 using PickRayTest = DeviceTest;

@@ -4,7 +4,6 @@
 #include "level/clsRamp.h"
 #include "level/clsStar.h"
 #include "level/clsblock.h"
-#include "level/kept_track.h"
 #include "level/maths.h"
 #include "tests/support/null_editor.h"
 
@@ -55,52 +54,6 @@ class PieceTest : public DeviceTest {
 
 using Colour = std::vector<uint32_t>;
 
-TEST_F(PieceTest, SettersRefuseSilently) {
-  block.create(0, -5, 7.5F, 1, 1, 1);
-  EXPECT_EQ(std::tuple(block.Ypos(), block.Zpos(), block.scaleZ()), std::tuple(-5, 8, 0.9F))
-      << "create checks no ranges and takes a tenth off the depth";
-  block.create(0, 0, 2.5F, 1, 1, 1);
-  EXPECT_EQ(block.Zpos(), 2) << "halves to even";
-  for (const float y : {-0.99F, -1.0F}) block.Ypos(y);
-  for (const int z : {0, -1}) block.Zpos(z);
-  block.scaleX(0);
-  block.scaleY(-3);
-  EXPECT_EQ(std::tuple(block.Ypos(), block.Zpos(), block.scaleX(), block.scaleY()),
-            std::tuple(-0.99F, 0, 1, 1));
-
-  EXPECT_EQ(std::tuple(ramp.scaleX(), ramp.scaleY(), ramp.scaleZ()), std::tuple(1, 1, 1));
-  const auto move = [](auto& piece, int to) {
-    piece.Xpos(to);
-    piece.Ypos(to);
-    piece.Zpos(to);
-    return std::tuple(piece.Xpos(), piece.Ypos(), piece.Zpos());
-  };
-  EXPECT_EQ(move(ramp, -1), std::tuple(-1, 2, 3));
-  EXPECT_EQ(move(ramp, 0), std::tuple(0, 0, 0));
-  EXPECT_EQ(move(star, -1), std::tuple(-1, 0, 0));
-  EXPECT_EQ(move(star, 5), std::tuple(5, 5, 5));
-  EXPECT_EQ(move(star, 0), std::tuple(0, 0, 0));
-  ramp.scaleX(-2);
-  EXPECT_EQ(ramp.scaleX(), -2);
-}
-
-TEST_F(PieceTest, StretchIsSeenAtTheNextSizeOrAtOnce) {
-  const auto frontRepeats = [this] {  // those of the front's right lower corner
-    return std::pair(block.GeometryVertices()[4].tu, block.GeometryVertices()[4].tv);
-  };
-  using UV = std::pair<float, float>;
-  PutPiece(block, {0, 0, 0}, {4, 2, 1});
-  block.ScaleTextureSide(2);
-  EXPECT_EQ(frontRepeats(), UV(4, 2)) << "the property alone changes nothing";
-  block.scaleX(5);
-  EXPECT_EQ(frontRepeats(), UV(2, 2)) << "the other coordinate stays";
-  block.AlignTexureCoords(1, 0);
-  EXPECT_EQ(frontRepeats(), UV(5, 2));
-  EXPECT_EQ(block.TextAlignSide(), 0);
-  EXPECT_THROW(block.AlignTexureCoords(1, 256), std::overflow_error);
-  EXPECT_EQ(frontRepeats(), UV(256, 256)) << "the coordinates come first";
-}
-
 TEST_F(PieceTest, ColoursFollowSizeAndSelection) {
   const std::vector<size_t> blockVertices = {0, 2, 7, 17, 18, 23}, rampVertices = {0, 5, 6, 17};
   const Colour flat = {0x9A9A9A, 0x9A9A9A, 0x9A9A9A, 0x9A9A9A, 0xFFFFFF, 0xFFFFFF};
@@ -120,17 +73,6 @@ TEST_F(PieceTest, ColoursFollowSizeAndSelection) {
   EXPECT_EQ(Colours(ramp, rampVertices), Colour(4, 0x888888));
   ramp.UnSelectramp();
   EXPECT_EQ(Colours(ramp, rampVertices), plain);
-}
-
-TEST_F(PieceTest, PlanesFollowAMoveAtTheNextRefresh) {
-  block.Xpos(5);
-  EXPECT_EQ(block.GetCollisionPlane(1).d, 0.0F);
-  block.SelectBlock();
-  EXPECT_EQ(block.GetCollisionPlane(1).d, 5.0F);
-  EXPECT_THROW(block.GetCollisionPlane(0), std::out_of_range);
-  EXPECT_THROW(block.GetPlaneNormal(6), std::out_of_range);
-  EXPECT_THROW(ramp.GetCollisionPlane(0), std::out_of_range);
-  EXPECT_THROW(ramp.GetPlaneNormal(7), std::out_of_range);
 }
 
 TEST_F(PieceTest, DrawsItsFacesScaledThenMoved) {
@@ -163,14 +105,6 @@ TEST_F(PieceTest, TexturesThatCannotBeLoadedKeepTheFace) {
   EXPECT_EQ(Document.Background.Name(), folder / "backgrounds/bk001.jpg");
 }
 
-TEST_F(PieceTest, ATakenTrackLeavesNone) {
-  Document.BlockCount = Document.RampCount = Document.PlatformCount = Document.StarCount = 7;
-  TakeTrack();
-  EXPECT_EQ((std::array{Document.BlockCount, Document.RampCount, Document.PlatformCount,
-                        Document.StarCount}),
-            (std::array{-1, -1, -1, -1}));
-}
-
 TEST_F(PieceTest, AnimatedFacesStepThroughTheFrames) {
   Texture(block, "AnimationTest_2.bmp", "AD");
   Texture(block, "a.bmp", "B");
@@ -197,17 +131,6 @@ TEST_F(PieceTest, BounceRisesByOneAndEndsAfter22Frames) {
   }
 }
 
-TEST_F(PieceTest, FallAcceleratesByTheTracksGravity) {
-  Document.Gravity = 0.025F;
-  block.Fall();
-  DrawBlock();
-  EXPECT_FLOAT_EQ(block.Ypos(), -0.025F);
-  EXPECT_FLOAT_EQ(block.GetCollisionPlane(3).d, -(1 - 0.025F));
-  DrawBlock();
-  EXPECT_FLOAT_EQ(block.Ypos(), -0.075F);
-  EXPECT_FLOAT_EQ(block.fallvel(), 0.05F);
-}
-
 TEST_F(PieceTest, StarsSpinByFiveUntilTheyAreCollected) {
   const auto angleAfter = [this](int frames) {
     for (int i = 0; i < frames; ++i) DrawFrame([this] { star.draw(); });
@@ -218,24 +141,6 @@ TEST_F(PieceTest, StarsSpinByFiveUntilTheyAreCollected) {
   EXPECT_EQ(angleAfter(1), std::pair(6, size_t{1}));
   star.GetStar();
   EXPECT_EQ(angleAfter(1), std::pair(6, size_t{0}));
-}
-
-TEST_F(PieceTest, StarsHaveTheFacesOfASmallBox) {
-  star.Xpos(2);
-  star.Ypos(1);
-  star.Zpos(30);
-  const float low = 1.6F, high = 2.4F, front = 29.6F, back = 30.4F;
-  const std::pair<CollisionPlane, clsStar::Corners> faces[] = {
-      {{-1, 0, 0, 2}, {{{low, 2, front}, {low, 2, back}, {low, 1, back}, {low, 1, front}}}},
-      {{1, 0, 0, -3}, {{{high, 2, front}, {high, 2, back}, {high, 1, back}, {high, 1, front}}}},
-      {{0, 1, 0, -2}, {{{1.5F, 2, 29.5F}, {1.5F, 2, 30.5F}, {2.5F, 2, 30.5F}, {2.5F, 2, 29.5F}}}},
-      {{0, 0, -1, 30}, {{{low, 1, front}, {low, 2, front}, {high, 2, front}, {high, 1, front}}}},
-      {{}, {}}};
-  for (int16_t plane = 1; plane <= 5; ++plane) {
-    EXPECT_EQ(std::pair(star.GetCollisionPlanes(plane), star.GetFaceCorners(plane)),
-              faces[plane - 1])
-        << plane;
-  }
 }
 
 }  // namespace

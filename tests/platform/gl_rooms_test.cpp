@@ -3,57 +3,23 @@
 
 #include "platform/d3dx.h"
 #include "platform/gl/frame_memory.h"
-#include "platform/gl/frustum.h"
-#include "platform/gl/texture_arrays.h"
 
 namespace {
 
-VertexBufferPtr BoxBuffer(float halfSide) {
-  const std::array<Vertex, 2> corners = {
-      {{-halfSide, -halfSide, -halfSide, 0, 0, 0, 0}, {halfSide, halfSide, halfSide, 0, 0, 0, 0}}};
-  return std::make_shared<VertexBufferObject>(std::span<const Vertex>(corners));
-}
-
-Camera DefaultCamera() {
-  return {d3dx::LookAtLH({0, 25, -18}, {0, 8, 0}, {0, 1, 0}),
-          d3dx::PerspectiveFovLH(0.785398F, 1, 1, 500)};
-}
-
-TEST(TextureArrays, GreatPicturesComeInSmallNumbers) {
-  for (int side = 1; side <= 16384; side *= 2) {
-    const gl::LayerCounts counts = gl::LayersFor(side, side, 2048);
-    const int64_t bytes = int64_t{4} * side * side;
-    EXPECT_TRUE(counts.first == 1 || counts.first * bytes <= int64_t{16} << 20) << side;
-    EXPECT_TRUE(counts.most == 1 || counts.most * bytes <= int64_t{256} << 20) << side;
-    EXPECT_TRUE(side > 512 || counts.first == 8) << side;
-    EXPECT_TRUE(side > 256 || counts.most == 256) << side;
-  }
-  EXPECT_EQ(gl::LayersFor(4, 4, 5).first, 5);
-}
-
-// That nothing visible is lost shows in the generated scenes.
-TEST(Frustum, LeavesOutWhatIsBehindBesideAndBeyond) {
-  const gl::Frustum frustum(gl::WorldToClip(DefaultCamera()));
-  const auto sees = [&](float x, float y, float z) {
-    Matrix4 world = d3dx::Identity();
-    world.m[3] = {x, y, z, 1};
-    return frustum.MaySee(*BoxBuffer(0.5F), world);
-  };
-  EXPECT_TRUE(sees(0, 8, 0));
-  EXPECT_FALSE(sees(0, 25, -25) || sees(40, 8, 0) || sees(-40, 8, 0) || sees(0, -40, 0) ||
-               sees(0, -470, 700));
+VertexBufferPtr Buffer(float x) {
+  return std::make_shared<VertexBufferObject>(std::span<const Vertex>(std::array<Vertex, 2>{{x}}));
 }
 
 /// A frame of one clear and one draw; change it to see what is noticed.
 struct SmallFrame : CommandList {
-  VertexBufferPtr box = BoxBuffer(1);
+  VertexBufferPtr box = Buffer(1);
   SmallFrame() {
     commands.resize(2);
     commands[0].kind = Command::Kind::Clear;
     commands[1].buffer = box.get();
     commands[1].vertexCount = 2;
     worlds = {d3dx::Identity()};
-    cameras = {DefaultCamera()};
+    cameras = {Camera()};
     states = {DeviceStates()};
     resources = {box};
   }
@@ -81,7 +47,7 @@ TEST(FrameMemory, NoticesEveryKindOfChange) {
   gl::FrameMemory memory, withoutClear;
   for (int drawn = 0; drawn < 2; ++drawn) memory.Remember(frame);
   const TextureObject texture(Image(1, 1), TextureObject::Format::Colour32);
-  const auto other = BoxBuffer(2);
+  const auto other = Buffer(2);
   const std::vector<std::function<void(Frame)>> changes = {
       [](Frame list) { list.commands[0].colour = 1; },
       [](Frame list) { list.commands[0].depth = 0.5F; },

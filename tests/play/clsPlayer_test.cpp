@@ -4,8 +4,6 @@
 #include <cmath>
 
 #include "level/maths.h"
-#include "play/end_program.h"
-#include "play/play_frame.h"
 #include "tests/play/play_test.h"
 
 namespace {
@@ -22,20 +20,6 @@ class PlayerTest : public PlayTest {
     return {placed.x - Player.Posx(), placed.y - Player.PosY(), placed.z - Player.Posz()};
   }
 };
-
-TEST_F(PlayerTest, HasLimitsAndABox) {
-  Player.resetPLayer();
-  for (const float limit : {-1.0F, 1.0F}) {
-    Player.HorizontalVelocity(limit);
-    Player.HorizontalVelocity(limit * 1.01F);
-    EXPECT_EQ(Player.HorizontalVelocity(), limit);
-  }
-  EXPECT_NEAR(Player.CalculateEffectiveRadius({0, 0.7071F, 0.7071F}), 0.5657, 1e-4);
-  EXPECT_EQ(Player.CalculateCollisionBoxCentre(), (Vector4{0, 3.9F, 0.6F, 1}));
-  EXPECT_EQ(Player.GetCollisionPoint(1), (Vector4{-0.4F, 4.3F, 1, 0}));
-  EXPECT_EQ(Player.GetCollisionPoint(8), (Vector4{0.4F, 3.5F, 1 - 0.8F, 0}));
-  EXPECT_THROW(Player.GetCollisionPoint(9), std::out_of_range);
-}
 
 TEST_F(PlayerTest, TheCameraFollowsAlongTheTrackOnly) {
   AddFloor();
@@ -118,29 +102,6 @@ TEST_F(PlayerTest, PlayAdvancesAnimatedTexturesEveryThirdFrame) {
     EXPECT_EQ(Document.Blocks[0].GetTextureD(),
               "AnimationTest_" + std::to_string(frame / 3 % 4) + ".bmp");
   }
-}
-
-TEST_F(PlayerTest, OppositeKeysAndOtherJumpKeysAct) {
-  CollisionDetection::OnGround = true;
-  for (const uint8_t key : {scancode::kUp, scancode::kDown, scancode::kRightCtrl}) {
-    DirectInput::KeyState[key] = kKeyHeld;
-  }
-  play::PollCarKeys();
-  EXPECT_EQ(std::pair(Player.ForwardVelocity(), Player.verticalvelocity()), std::pair(0.0F, 0.35F));
-  Player.explode();
-  Player.verticalvelocity(0);
-  play::PollCarKeys();
-  EXPECT_EQ(Player.verticalvelocity(), 0) << "no jump while exploding";
-}
-
-TEST_F(PlayerTest, ATiltedPlaneEndsTheProgram) {
-  int ended = 0;
-  const auto before = std::exchange(EndProgram, [&] { ++ended; });
-  CollisionDetection::Sweep.AxesInvolved = 3;
-  CollisionDetection::CalculateContactPoints();
-  EndProgram = before;
-  EXPECT_EQ(ended, 1);
-  EXPECT_EQ(boxes.messages, std::vector<std::string>{"Whoops: You got eaten by a bug"});
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "render/frame/clsShadow.h"
 
-#include <cmath>
-
 #include "level/maths.h"
 #include "tests/play/play_test.h"
 

@@ -38,14 +38,6 @@ TEST_F(RampDriveTest, ClimbsForwardsAndStandsBeyondTheHighEdgeForItsOwnLength) {
   EXPECT_TRUE(Near({row.y, row.fv}, {3.001, 0.3}));
 }
 
-TEST_F(RampDriveTest, OnItFrontFacesDoNotCount) {
-  AddRamp({-2, 1, 10}, {4, 2, 4}, 0);
-  AddBlock({-2, 1, 12}, {4, 1.2F, 2});
-  const Row row = Last("8 up\n90 -");
-  EXPECT_GT(row.z, 12.5F);
-  EXPECT_NEAR(row.fv, 0.16, kNear);
-}
-
 TEST_F(RampDriveTest, DescendsForwardsAndCannotClimbTheRiser) {
   AddRamp({-2, 1, 10}, {4, 2, 4}, 2);
   EXPECT_NEAR(Last("15 up\n60 -").z, 9.999, kNear) << "the riser faces the car";
@@ -92,19 +84,6 @@ TEST_F(RampDriveTest, EverySlopeHoldsACarWithOneEndOfItsTouchingEdge) {
       }
     }
   }
-}
-
-TEST_F(RampDriveTest, SidesAndRisersStopSideways) {
-  for (int rotation = 0; rotation < 4; ++rotation) {
-    RemoveRamps();
-    AddRamp({-6, 1, -2}, {4, 8, 10}, rotation);
-    const Row row = Last(kLand + "40 left");
-    // The last one's low edge is here.
-    EXPECT_TRUE(rotation == 3 ? row.y > 2 : std::abs(row.x + 1.599F) < kNear) << rotation;
-  }
-  AddRamp({2, 1, 0}, {2, 4, 20}, 1);
-  AddBlock({4, 1, 0}, {6, 4, 20});
-  EXPECT_NEAR(Last(kLand + "60 right").y, 5.001, kNear) << "however steep, a slope does not";
 }
 
 }  // namespace

@@ -54,13 +54,6 @@ TEST_F(DriveTest, LandsAndJumpsWheneverItStands) {
   }
 }
 
-TEST_F(DriveTest, SpeedsUpToTheCapAndBrakes) {
-  AddFloor();
-  const auto rows = Run("40 up\n5 -\n20 down");
-  EXPECT_NEAR(rows[9].z, 1 + 0.02 * 55, kNear);
-  EXPECT_TRUE(Near({rows[29].fv, rows[44].fv, rows.back().fv}, {0.6, 0.6, 0})) << "no friction";
-}
-
 TEST_F(DriveTest, AWallStopsTheSlowAndExplodesTheFast) {
   AddFloor();
   AddBlock({-2, 1, 20}, {4, 3, 1});
@@ -76,29 +69,6 @@ TEST_F(DriveTest, AWallStopsTheSlowAndExplodesTheFast) {
   // Picture 2 at once, then one every third frame: picture 16 after 42 more, death one later.
   EXPECT_TRUE(!rows[46 + 42].dead && rows[46 + 43].dead && !rows[46 + 44].exploding);
   EXPECT_EQ(rows[46 + 44].z, 1);
-}
-
-TEST_F(DriveTest, BumpsItsHeadAndOnlyMeetsWhatFacesIt) {
-  AddFloor();
-  AddBlock({-2, 3, 0}, {4, 1, 40});
-  const auto rows = RunFrom({0, kStanding, 1}, "2 -\n6 jump");
-  EXPECT_NEAR(rows[5].y, 1.001 + 0.325 + 0.3 + 0.275 + 0.25, kNear);
-  EXPECT_TRUE(Near({rows[6].y, rows[6].vv, rows[7].vv}, {3 - 0.8 - 0.001, 0, -0.025}));
-
-  for (const auto& [y, speed] : {std::pair{3.95F, 0.35F}, {2.25F, -0.05F}}) {
-    PlaceCar({0, y, 1});
-    Player.verticalvelocity(speed);
-    EXPECT_NEAR(Continue("1 -").back().y, y + speed - 0.025, kNear) << "passes";
-  }
-}
-
-TEST_F(DriveTest, SidesStopIt) {
-  AddFloor();
-  AddBlock({2, 1, 0}, {1, 3, 20});
-  AddBlock({-3, 1, 0}, {1, 3, 20});
-  EXPECT_TRUE(Near({Last("30 right").x, Last("30 left").x}, {1.599, -1.599}));
-  const auto rows = Run("5 right\n1 -\n2 left+right");
-  EXPECT_TRUE(Near({rows[4].x, rows[5].hv, rows[7].hv}, {0.6, 0, 0.12})) << "right is later";
 }
 
 TEST_F(DriveTest, SlidesOnIce) {

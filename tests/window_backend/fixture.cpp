@@ -18,7 +18,6 @@ qt::Application* running = nullptr;
 qt::Application& Toolkit() { return *running; }
 
 ShownWindow::ShownWindow() {
-  c.cmbo_Direction.items[0] = "a very long entry that no narrow box can hold";
   Toolkit().Build(window_);
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     if (dynamic_cast<qt::WindowView*>(widget) != nullptr) top_ = widget;
