@@ -32,10 +32,17 @@ wait_for() { # description command...
 window_named() { xdotool search --onlyvisible --name "^$1\$"; }
 no_window_named() { ! window_named "$1"; }
 
-window_manager_runs() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
+# A server that is still starting may turn the manager away: it tries again.
+window_manager_runs() {
+  if ! kill -0 "$manager_pid"; then
+    openbox &
+    manager_pid=$!
+  fi
+  xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
+}
 
 # A window that is mapped while the manager is still starting may stay hidden.
-openbox >/dev/null 2>&1 &
+manager_pid=none
 wait_for "the window manager" window_manager_runs
 
 # Waits for the first window; sets main, its X, Y, WIDTH and HEIGHT, and the menu bar's height.
