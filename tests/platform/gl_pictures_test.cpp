@@ -201,5 +201,23 @@ TEST_P(Pictures, ATextureCoversASpriteUpright) {
   EXPECT_EQ(screen.executor->ReadPicture().At(12, 12), 0xFFFF0000);
 }
 
+TEST_P(Pictures, ATextureBeyondTheDeviceIsToldOnceByNameAndDrawnWithout) {
+  Screen screen = MakeScreen(1, 1);
+  const auto great = std::make_shared<TextureObject>(Image(1 << 20, 1),
+                                                     TextureObject::Format::Colour32, "great.bmp");
+  std::vector<std::string> told;
+  for (int frame = 0; frame < 3; ++frame) {
+    Begin(screen).SetTexture(great);
+    DrawRectangle(screen.device, 0, 0, 1, 1, 0, 0xFF00FF00);
+    try {
+      EXPECT_EQ(End(screen).At(0, 0), 0xFF00FF00);
+    } catch (const PlatformError& failure) {
+      told.emplace_back(failure.what());
+    }
+  }
+  ASSERT_EQ(told.size(), 1U);
+  EXPECT_TRUE(told[0].starts_with("great.bmp: ")) << told[0];
+}
+
 }  // namespace
 }  // namespace gltest

@@ -2,8 +2,6 @@
 #include <QKeySequence>
 #include <QLineEdit>
 
-#include "platform/error.h"
-#include "platform/qt/polled_keyboard.h"
 #include "platform/qt/scan_codes.h"
 #include "platform/qt/virtual_keys.h"
 #include "platform/qt/window_keyboard.h"
@@ -103,30 +101,6 @@ TEST(KeyCodes, ComeFromKeysAndPlaces) {
   EXPECT_EQ(CodesOf("Ins End Down Clear PgUp 0 9", Qt::KeypadModifier), "96 97 98 101 105 96 105 ");
   EXPECT_EQ(qt::VirtualKeyCodeAt(44), 'Z');
   EXPECT_EQ(qt::ScanCodeOfInput(105), scancode::kLeft);
-}
-
-struct Fingers : qt::PolledKeyboard {
-  KeyboardState held{};
-  KeyboardState Read() override { return held; }
-};
-
-TEST(PolledKeyboard, ChangesBecomeEventsUpToTheBuffersSize) {
-  Fingers keyboard;
-  KeyboardState state;
-  EXPECT_THROW(keyboard.GetDeviceState(state), PlatformError) << "not acquired";
-  keyboard.SetBufferSize(10);
-  keyboard.Acquire();
-  keyboard.held[scancode::kSpace] = kKeyHeld;
-  keyboard.GetDeviceState(state);
-  EXPECT_EQ(state[scancode::kSpace], 128);
-  keyboard.held[scancode::kSpace] = 0;
-  std::array<KeyboardEvent, 11> events;
-  ASSERT_EQ(keyboard.GetDeviceData(events), 2);
-  EXPECT_EQ(events[0].scanCode, scancode::kSpace);
-  EXPECT_TRUE(events[0].pressed && !events[1].pressed);
-  for (size_t code = 1; code <= 30; ++code) keyboard.held[code] = kKeyHeld;
-  EXPECT_EQ(keyboard.GetDeviceData(events), 10);
-  EXPECT_EQ(keyboard.GetDeviceData(events), 0);
 }
 
 }  // namespace

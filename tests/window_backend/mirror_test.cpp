@@ -89,6 +89,15 @@ TEST_F(Mirroring, ClicksReachTheControls) {
   EXPECT_EQ(presses, (decltype(presses){{1, 0, 3, 4}, {2, 1, 10, 20}, {4, 6, 0, 0}}));
 }
 
+TEST_F(Mirroring, MenuCheckMarkMovesOnlyWhenTheProgramMovesIt) {
+  auto &edit = Find<QAction>("mnu_editmode"), &play = Find<QAction>("mnu_playmode");
+  play.trigger();
+  EXPECT_TRUE(edit.isChecked() && !play.isChecked());
+  c.mnu_editmode.Checked(false);
+  c.mnu_playmode.Checked(true);
+  EXPECT_TRUE(!edit.isChecked() && play.isChecked());
+}
+
 TEST_F(Mirroring, UserCannotCloseTheWindowButTheProgramCan) {
   window_.onUnload = count_;
   top_->close();
