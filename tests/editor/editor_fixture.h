@@ -47,7 +47,7 @@ std::string Looks(const Piece& piece) {
 /// Of a platform on its way also where it starts.
 template <typename Piece>
 std::string PlaceOf(const Piece& p) {
-  const std::string place = Words(p.Xpos(), p.Ypos(), p.Zpos());
+  std::string place = Words(p.Xpos(), p.Ypos(), p.Zpos());
   if constexpr (requires { p.GetInitalXpos(); }) {
     const std::string start = Words(p.GetInitalXpos(), p.GetInitalYpos(), p.GetInitalZpos());
     if (start != place) return place + " from " + start;

@@ -16,7 +16,8 @@ namespace {
 std::vector<std::vector<Vertex>> Pictures() {
   std::vector<std::vector<Vertex>> pictures;
   VisitKinds([&pictures](auto kind) {
-    for (auto piece : kind.Pieces()) {
+    for (const auto& shown : kind.Pieces()) {
+      auto piece = shown;
       std::vector<Vertex> vertices;
       if constexpr (!std::is_same_v<typename decltype(kind)::Piece, clsStar>) {
         selection::Unmark(piece);

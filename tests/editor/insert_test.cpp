@@ -5,7 +5,7 @@
 namespace {
 
 TEST_F(EditorTest, EachInsertItemAddsItsMarkedPieceWhereTheCameraLooks) {
-  const auto all = [](std::string name) {
+  const auto all = [](const std::string& name) {
     return " " + name + ("/" + name + "/" + name + "/" + name);
   };
   struct Row {

@@ -190,7 +190,7 @@ TEST_F(RefusedReadTest, CountsIndicesAndNumbers) {
   };
   const std::vector<std::tuple<std::string File::*, std::string, std::string>> cases = {
       {&File::blocks, Long(-1), "BlockCount"},
-      {&File::blocks, Long(32768) + std::string(32769 * 35, '\0'), "BlockCount"},
+      {&File::blocks, Long(32768) + std::string(32769UL * 35, '\0'), "BlockCount"},
       {&File::platforms, Long(-2), "PlatformCount"},
       {&File::ramps, Long(-2), "RampCount"},
       {&File::stars, Long(-2), "StarCount"},

@@ -28,8 +28,9 @@ class PieceTest : public DeviceTest {
   }
   template <typename Piece>
   static std::vector<uint32_t> Colours(const Piece& piece, const std::vector<size_t>& vertices) {
-    std::vector<uint32_t> colours;
-    for (const size_t i : vertices) colours.push_back(piece.GeometryVertices()[i].colour);
+    std::vector<uint32_t> colours(vertices.size());
+    std::ranges::transform(vertices, colours.begin(),
+                           [&](size_t i) { return piece.GeometryVertices()[i].colour; });
     return colours;
   }
   /// First vertex, number of vertices and whether it is the texture of the first one.

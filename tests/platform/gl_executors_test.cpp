@@ -15,7 +15,8 @@ class Scene {
     // More vertices than a batch holds.
     std::vector<Vertex> strip;
     for (int i = 0; i < 9000; ++i) {
-      const auto x = static_cast<float>(i / 2) * 0.004F - 9;
+      const int step = i / 2;
+      const auto x = static_cast<float>(step) * 0.004F - 9;
       strip.push_back({x, (i & 1) == 0 ? 1.0F : -1.0F, Real(-0.1F, 0.1F), Colour(), 0, x, 0});
     }
     shapes_.push_back(std::make_shared<VertexBufferObject>(std::span<const Vertex>(strip)));
@@ -52,10 +53,9 @@ class Scene {
 
   VertexBufferPtr RandomShape() {
     const float w = Real(0.2F, 4), h = Real(0.2F, 4), d = Real(0.2F, 4);
-    std::vector<Vertex> vertices;
-    for (int i = 0; i < 24; ++i) {
-      vertices.push_back(
-          {Real(-w, w), Real(-h, h), Real(-d, d), Colour(), Colour(), Real(0, 3), Real(0, 3)});
+    std::vector<Vertex> vertices(24);
+    for (Vertex& vertex : vertices) {
+      vertex = {Real(-w, w), Real(-h, h), Real(-d, d), Colour(), Colour(), Real(0, 3), Real(0, 3)};
     }
     return std::make_shared<VertexBufferObject>(std::span(vertices));
   }
@@ -100,9 +100,9 @@ class Scene {
   }
 
   void RecordPoints() {
-    std::vector<PointVertex> points;
-    for (int i = 0; i < 20; ++i) {
-      points.push_back({Real(-9, 9), Real(-9, 9), Real(-9, 40), Colour(), Real(0, 1), Real(0, 1)});
+    std::vector<PointVertex> points(20);
+    for (PointVertex& point : points) {
+      point = {Real(-9, 9), Real(-9, 9), Real(-9, 40), Colour(), Real(0, 1), Real(0, 1)};
     }
     const bool scaled = Whole(2) == 0;
     device_.SetRenderState(RenderState::PointSprite, Whole(2) == 0);
@@ -160,7 +160,7 @@ TEST_P(GeneratedScenes, BothSchemesDrawTheSamePixels) {
 class BatchedTextures : public testing::Test {
  protected:
   static float Left(size_t i) { return static_cast<float>(2 * (i % 50)); }
-  static float Top(size_t i) { return static_cast<float>(2 * (i / 50)); }
+  static float Top(size_t i) { return static_cast<float>((i - i % 50) / 25); }
   /// One small square for each texture.
   Image Draw(std::span<const TexturePtr> textures) {
     screen_.device.Clear(0xFF000000, 1);

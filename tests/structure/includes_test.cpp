@@ -41,7 +41,7 @@ const Sources kSources;
 
 /// The part of the house that a file belongs to.
 std::string RoomOf(const std::string& file) {
-  for (const std::string inner : {"platform/gl", "platform/qt", "platform/null", "platform/mesh",
+  for (const char* const inner : {"platform/gl", "platform/qt", "platform/null", "platform/mesh",
                                   "render/device", "render/frame"}) {
     if (file.starts_with(inner)) return inner;
   }

@@ -16,15 +16,18 @@ class Dialogs : public fixture::ShownWindow {
   /// Runs `look` on the first open box of a kind, as soon as there is one.
   template <class Box>
   void WhenOpen(std::function<void(Box&)> look) {
-    QTimer::singleShot(20, [this, look] {
+    auto* const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, look] {
       for (QWidget* widget : QApplication::topLevelWidgets()) {
         auto* box = qobject_cast<Box*>(widget);
         if (box == nullptr || !box->isVisible()) continue;
         looked_ = true;
+        timer->stop();
+        timer->deleteLater();
         return look(*box);
       }
-      WhenOpen<Box>(look);
     });
+    timer->start(20);
   }
   /// Types a name into the box and confirms it.
   void Answer(const QString& name) {
