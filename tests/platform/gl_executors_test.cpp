@@ -160,7 +160,7 @@ TEST_P(GeneratedScenes, BothSchemesDrawTheSamePixels) {
 class BatchedTextures : public testing::Test {
  protected:
   static float Left(size_t i) { return static_cast<float>(2 * (i % 50)); }
-  static float Top(size_t i) { return static_cast<float>((i - i % 50) / 25); }
+  static float Top(size_t i) { return static_cast<float>(i - i % 50) / 25; }
   /// One small square for each texture.
   Image Draw(std::span<const TexturePtr> textures) {
     screen_.device.Clear(0xFF000000, 1);
