@@ -51,6 +51,12 @@ TEST(MainControls, StandAtTheirPlacesWithTheirFirstValues) {
       "232 32 145 21; 232 72 145 21; 384 48 113 25; 384 80 105 17; 552 56 73 21; 640 40 129 25");
   EXPECT_EQ(Layout(frmAbout().window),
             "320 120; 16 16 48 48; 80 16 224 20B; 80 40 224 20; 224 80 80 26");
+  for (const MenuItem* menu : controls.frmMain.menus) {
+    const std::string& name = menu->Caption();
+    for (const MenuItem* item : menu->items) {
+      EXPECT_EQ(item->checkable, name == "Mode" || name == "Background" || name == "Gravity");
+    }
+  }
 }
 
 TEST_F(EditorTest, FramesAreMoreThanFortyMillisecondsApart) {

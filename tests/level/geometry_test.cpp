@@ -200,6 +200,14 @@ TEST_F(GeometryTest, PlanesFaceOutwardsAndHoldTheirCorners) {
   }
 }
 
+TEST_F(GeometryTest, GradientsRiseToTheHighEdge) {
+  const float gradients[] = {1 / 3.0F, 0.5F, -1 / 3.0F, -0.5F};
+  for (int rotation = 0; rotation < 4; ++rotation) {
+    EXPECT_FLOAT_EQ(Wedge(rotation, {}, {2, 1, 3}).GetGradient(), gradients[rotation]);
+  }
+  EXPECT_EQ(Wedge(0, {}, {1, 1, 0}).GetGradient(), 0) << "a ramp without length";
+}
+
 /// Box textures lie upright and unmirrored on each face, once per unit or as often as asked.
 TEST_F(GeometryTest, BoxTexturesFollowTheExtents) {
   for (const auto& [stretch, onTop] : {std::pair{0, 0}, {1, 2}, {3, 1}}) {
