@@ -234,14 +234,4 @@ TEST_F(StartTest, EachMissingDeviceHasItsMessageAndEndsTheStart) {
   EXPECT_EQ(world->screen.frames, 0);
 }
 
-TEST_F(StartTest, SamplesFollowTheAdapter) {
-  for (const auto& [supported, used] : {std::pair{1, 1}, {2, 2}, {8, 4}}) {
-    world->samplesSupported = supported;
-    StartDevice();
-    EXPECT_EQ(world->created->samples, used);
-    EXPECT_EQ(DirectX::AntialiasAvailable, used > 1);
-    EXPECT_EQ(DirectX::D3DDevice->States().multisample, used > 1);
-  }
-}
-
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "platform/d3dx.h"
 #include "platform/gl/frame_memory.h"
+#include "platform/gl/texture_arrays.h"
 
 namespace {
 
@@ -24,6 +25,15 @@ struct SmallFrame : CommandList {
     resources = {box};
   }
 };
+
+TEST(TextureArrays, GreatPicturesComeInSmallNumbers) {
+  for (int side = 1; side <= 16384; side *= 2) {
+    const auto [first, most] = gl::LayersFor(side, side, 2048);
+    const int64_t bytes = int64_t{4} * side * side;
+    EXPECT_TRUE(first == 1 || first * bytes <= int64_t{16} << 20) << side;
+    EXPECT_TRUE(most == 1 || most * bytes <= int64_t{256} << 20) << side;
+  }
+}
 
 TEST(FrameMemory, HoldsAFrameThatWasDrawnTwiceAndItsResources) {
   auto frame = std::make_unique<SmallFrame>();

@@ -1,12 +1,15 @@
 // Picture files of every kind are read whole, and refused by name when they were cut.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 
+#include "platform/d3dx.h"
 #include "platform/error.h"
+#include "platform/mesh.h"
 #include "platform/qt/images.h"
 
 namespace {
@@ -97,10 +100,15 @@ TEST_F(PictureFile, EveryKindIsReadWholeAndEveryCutIsRefused) {
   EXPECT_EQ(Read(Bmp(40, 8, 1, 3, "\0\1"s)).pixels, Image(5, 3).pixels);
 }
 
-TEST_F(PictureFile, WhatIsTooLongIsRefused) {
+TEST_F(PictureFile, WhatIsTooLongOrNoFileIsRefused) {
   EXPECT_EQ(Read(Encoded(Image(qt::kGreatestSide, 1), ".png")).width, qt::kGreatestSide);
   ExpectRefused(Encoded(Image(qt::kGreatestSide + 1, 1), ".png"));
   ExpectRefused(Encoded(Image(1, qt::kGreatestSide + 1), ".png"));
+  std::filesystem::remove(path_);
+  ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
+  EXPECT_THROW(qt::LoadImageFile(path_), PlatformError) << "whoever opens a pipe waits";
+  EXPECT_THROW(d3dx::Library(qt::LoadImageFile, mesh::ReadXFile).LoadMeshFromX(path_),
+               PlatformError);
 }
 
 }  // namespace

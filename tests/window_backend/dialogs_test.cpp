@@ -1,9 +1,11 @@
 // The real boxes, looked at and then dismissed while they are open.
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeView>
 
 #include "tests/window_backend/fixture.h"
 
@@ -66,11 +68,32 @@ TEST_F(Dialogs, HandlerFailureIsShownOnceInAMessageBox) {
   EXPECT_TRUE(looked_);
 }
 
+TEST_F(Dialogs, MessagesAreShownWhole) {
+  const std::string path = "/home/somebody/" + std::string(240, 'w') + ".lvl";
+  for (const std::string& text :
+       {std::string("You must pause the moving platforms before you can alter them"),
+        path + ": /a b/" + path + ": damaged", std::string(250, 'm'), std::string("short")}) {
+    WhenOpen<QMessageBox>([&](QMessageBox& box) {
+      const auto& label = *box.findChild<QLabel*>("qt_msgbox_label");
+      const int flags = Qt::AlignLeft | (label.wordWrap() ? Qt::TextWordWrap : 0);
+      const QRect room = label.contentsRect();
+      const QRect needed =
+          label.fontMetrics().boundingRect(room.adjusted(0, 0, 0, 5000), flags, label.text());
+      EXPECT_TRUE(needed.width() <= room.width() && needed.height() <= room.height()) << text;
+      EXPECT_LE(box.width(), 600) << text;
+      EXPECT_EQ(label.text().count('\n'), QString::fromStdString(text).count(": ")) << text;
+      box.accept();
+    });
+    dialogs::ShowMessage(text);
+  }
+}
+
 TEST_F(Dialogs, SaveDialogIsSetUpAndCanBeCancelled) {
   WhenOpen<QFileDialog>([&](QFileDialog& box) {
     EXPECT_EQ(box.windowTitle(), "Save File");
     EXPECT_EQ(box.directory().absolutePath(), folder_.path());
     EXPECT_EQ(box.nameFilters(), QStringList("Vorbilax Levels *.lvl (*.lvl)"));
+    EXPECT_TRUE(box.findChild<QTreeView*>("treeView")->isColumnHidden(2)) << "the type";
     box.reject();
   });
   EXPECT_EQ(dialogs::SaveFile(dialog_), std::nullopt);

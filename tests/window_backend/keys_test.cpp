@@ -38,9 +38,13 @@ TEST_F(Keys, WindowSeesEveryKeyOnceAndBeforeTheWidgetWhichGetsOnlyUnchangedCodes
     EXPECT_EQ(released_, pressed_) << name;
   }
   Type(Qt::Key_Space);
+  Type(Qt::Key_Space, Qt::AltModifier);
   Type(Qt::Key_Tab);
   EXPECT_TRUE(clicks_ == 0 && Find<QWidget>("cmd_ramp").hasFocus());
   eat_ = false;
+  pressed_.clear();
+  Type(Qt::Key_Space, Qt::MetaModifier);
+  EXPECT_TRUE(pressed_.empty() && clicks_ == 0) << "Super's commands are the desktop's";
   Type(Qt::Key_Space);
   EXPECT_EQ(clicks_, 1);
 }

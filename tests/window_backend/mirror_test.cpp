@@ -33,6 +33,21 @@ TEST_F(Mirroring, EverythingIsAtItsPlaceInItsParentAndLabelsHoldTheirTexts) {
   }
 }
 
+TEST_F(Mirroring, LabelsStandOnTheLineOfTheirNumbers) {
+  c.Label1.Caption("11");
+  c.txt_height.Text("11");
+  const auto line = [this](const char* name) {
+    const QImage drawn = Find<QWidget>(name).grab().toImage();
+    int last = 0;
+    for (int i = 0; i < drawn.width() * drawn.height(); ++i) {
+      if (qGray(drawn.pixel(i % drawn.width(), i / drawn.width())) < 128) last = i / drawn.width();
+    }
+    return last;
+  };
+  EXPECT_GT(line("Label1"), 8);
+  EXPECT_EQ(line("Label1"), line("txt_height"));
+}
+
 TEST_F(Mirroring, CaptionsTextsAndFocus) {
   c.Label1.Caption("one & two");
   EXPECT_EQ(Find<QLabel>("Label1").text(), "one & two");
@@ -91,6 +106,7 @@ TEST_F(Mirroring, ClicksReachTheControls) {
 
 TEST_F(Mirroring, MenuCheckMarkMovesOnlyWhenTheProgramMovesIt) {
   auto &edit = Find<QAction>("mnu_editmode"), &play = Find<QAction>("mnu_playmode");
+  EXPECT_TRUE(play.isCheckable()) << "it shows an empty box before it is checked";
   play.trigger();
   EXPECT_TRUE(edit.isChecked() && !play.isChecked());
   c.mnu_editmode.Checked(false);

@@ -1,5 +1,6 @@
 // File lists and the message pump.
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -37,6 +38,16 @@ TEST_F(Windows, FileListsShowPicturesAndMirrorTheSelection) {
   EXPECT_EQ(view.currentRow(), 2);
   view.setCurrentRow(1);
   EXPECT_EQ(c.File1.FileName(), "b.bmp");
+  c.File1.onDoubleClick = count_;
+  const QPointF at = view.visualItemRect(view.item(2)).center();
+  for (const auto button : {Qt::RightButton, Qt::LeftButton}) {
+    EXPECT_EQ(events_, 0) << "the right button";
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+      QMouseEvent event(type, at, view.viewport()->mapToGlobal(at), button, button, {});
+      QApplication::sendEvent(view.viewport(), &event);
+    }
+  }
+  EXPECT_EQ(events_, 1);
 }
 
 double PumpFor(double milliseconds) {
