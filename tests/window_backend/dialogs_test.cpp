@@ -69,10 +69,10 @@ TEST_F(Dialogs, HandlerFailureIsShownOnceInAMessageBox) {
 }
 
 TEST_F(Dialogs, MessagesAreShownWhole) {
-  const std::string path = "/home/somebody/" + std::string(240, 'w') + ".lvl";
+  const std::string path = "/home/" + std::string(250, 'w');
   for (const std::string& text :
        {std::string("You must pause the moving platforms before you can alter them"),
-        path + ": /a b/" + path + ": damaged", std::string(250, 'm'), std::string("short")}) {
+        path + ": /a b/c: damaged", std::string(250, 'm'), std::string("short")}) {
     WhenOpen<QMessageBox>([&](QMessageBox& box) {
       const auto& label = *box.findChild<QLabel*>("qt_msgbox_label");
       const int flags = Qt::AlignLeft | (label.wordWrap() ? Qt::TextWordWrap : 0);
