@@ -64,7 +64,7 @@ void BatchedExecutor::DrawFrame(const CommandList& frame) {
 
 void BatchedExecutor::UseCamera(const CommandList& frame, uint32_t camera) {
   camera_ = camera;
-  frustum_ = Frustum(WorldToClip(frame.cameras[camera]));
+  frustum_ = Frustum(frame.cameras[camera]);
   seen_ = {};
 }
 

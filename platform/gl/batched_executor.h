@@ -1,8 +1,8 @@
 // Draws a frame in as few OpenGL draws as its order allows.
 #pragma once
 
+#include "platform/frustum.h"
 #include "platform/gl/frame_memory.h"
-#include "platform/gl/frustum.h"
 #include "platform/gl/pipeline.h"
 #include "platform/gl/texture_arrays.h"
 #include "platform/gl/vertex_stream.h"
@@ -18,6 +18,7 @@ class BatchedExecutor : public PictureExecutor {
   explicit BatchedExecutor(const TargetSettings& settings);
 
   void Execute(const CommandList& frame) override;
+  bool NeedsUnseen() const override { return false; }
   Image ReadPicture() override;
 
  private:

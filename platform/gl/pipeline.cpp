@@ -102,7 +102,7 @@ void Pipeline::SetProgram(const DrawMode& mode) const {
   const Program& program = mode.shape == Shape::Points ? points_ : triangles_;
   program.Use();
   program.ToClip(mode.screen ? ScreenToClip(settings_.width, settings_.height)
-                             : WorldToClip(camera));
+                             : AsUniform(WorldToClip(camera)));
   if (mode.shape != Shape::Points) return;
   program.ToEye(AsUniform(camera.view));
   program.Points(SizingOf(states, mode.screen), states.pointSprites);
