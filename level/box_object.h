@@ -12,6 +12,8 @@
 
 class BoxObject {
  public:
+  static constexpr size_t kFaces = 4;  ///< that have a picture
+
   float scaleX() const { return size_.x; }
   float scaleY() const { return size_.y; }
   float scaleZ() const { return size_.z; }
@@ -101,7 +103,7 @@ class BoxObject {
     const Kind* kind = nullptr;
     box::Shape shape;
     VertexBufferPtr VertexBuffer;  ///< of this shape, once it has been drawn
-    std::array<FacePicturePtr, 4> pictures;
+    std::array<FacePicturePtr, kFaces> pictures;
     Extent planes;  ///< where they were left behind
   };
 

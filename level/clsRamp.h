@@ -12,6 +12,8 @@
 
 class clsRamp {
  public:
+  static constexpr size_t kFaces = 2;  ///< that have a picture
+
   /// Sizes 1, 1, 1 at this smallest corner; the rotation stays as it was. Loads no textures.
   void create(float CoordX, float CoordY, float CoordZ);
 
@@ -81,7 +83,7 @@ class clsRamp {
   struct Look {
     ramp::Shape shape;
     VertexBufferPtr VertexBuffer;  ///< of this shape, once it has been drawn
-    std::array<FacePicturePtr, 2> pictures;
+    std::array<FacePicturePtr, kFaces> pictures;
     std::optional<PlanesPlace> planes;
   };
 

@@ -97,7 +97,7 @@ std::array<CollisionPlane, 5> clsStar::DrawnPlanes() const {
 }
 
 Extent clsStar::Drawn() const {
-  return {{position_.x - 0.5F, position_.y, position_.z - 0.5F}, {1, 1, 1}};
+  return {{position_.x - 0.5F, position_.y, position_.z - 0.5F}, {1.5F, 1, 1.5F}};
 }
 
 CollisionPlane clsStar::GetCollisionPlanes(int16_t planenumber) const {

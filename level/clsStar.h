@@ -46,7 +46,7 @@ class clsStar {
   /// Planes 1 to 4 (left, right, top, front) of the unit box at the position.
   CollisionPlane GetCollisionPlanes(int16_t planenumber) const;
   std::array<CollisionPlane, 5> DrawnPlanes() const;
-  /// The box around the windows below.
+  /// The box around model, planes and the windows below.
   Extent Drawn() const;
   /// The window of each plane inside which a click picks the star.
   Corners GetFaceCorners(int16_t planenumber) const;
