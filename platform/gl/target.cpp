@@ -22,6 +22,11 @@ void CheckSize(int width, int height, int samples) {
   }
 }
 
+/// From 0xAABBGGRR.
+uint32_t OpaqueArgb(uint32_t pixel) {
+  return 0xFF000000U | (pixel & 0xFF00U) | (pixel & 0xFFU) << 16 | (pixel >> 16 & 0xFFU);
+}
+
 void CheckComplete() {
   const GLenum status = glCheckFramebufferStatus(GL_FRAMEBUFFER);
   if (status != GL_FRAMEBUFFER_COMPLETE) {
@@ -33,12 +38,12 @@ void CheckComplete() {
 
 Target::Target(const TargetSettings& settings)
     : width_(DevicePixels(settings.width, settings.scale)),
-      height_(DevicePixels(settings.height, settings.scale)) {
+      height_(DevicePixels(settings.height, settings.scale)),
+      // Zero asks for storage without multisampling.
+      samples_(settings.samples > 1 ? settings.samples : 0) {
   CheckSize(width_, height_, settings.samples);
-  // Zero asks for storage without multisampling.
-  const int samples = settings.samples > 1 ? settings.samples : 0;
-  Attach(drawn_, GL_COLOR_ATTACHMENT0, colour_, GL_RGBA8, samples);
-  Attach(drawn_, GL_DEPTH_ATTACHMENT, depth_, GL_DEPTH_COMPONENT16, samples);
+  Attach(drawn_, GL_COLOR_ATTACHMENT0, colour_, GL_RGBA8, samples_);
+  Attach(drawn_, GL_DEPTH_ATTACHMENT, depth_, GL_DEPTH_COMPONENT16, samples_);
   CheckComplete();
   // What was never drawn is black rather than whatever the memory held.
   glDisable(GL_SCISSOR_TEST);
@@ -64,27 +69,47 @@ void Target::Bind() const {
   glViewport(0, 0, width_, height_);
 }
 
-Image Target::Read() const {
+void Target::Keep() {
+  if (!kept_) {
+    kept_.emplace();
+    Attach(kept_->framebuffer, GL_COLOR_ATTACHMENT0, kept_->colour, GL_RGBA8, samples_);
+    CheckComplete();
+  }
+  CopyColours(drawn_, kept_->framebuffer);
+  Bind();
+}
+
+void Target::Restore() const {
+  CopyColours(kept_->framebuffer, drawn_);
+  Bind();
+}
+
+void Target::CopyColours(const FramebufferName& from, const FramebufferName& to) const {
   glDisable(GL_SCISSOR_TEST);
-  glBindFramebuffer(GL_READ_FRAMEBUFFER, drawn_.Name());
-  glBindFramebuffer(GL_DRAW_FRAMEBUFFER, resolved_.Name());
+  glBindFramebuffer(GL_READ_FRAMEBUFFER, from.Name());
+  glBindFramebuffer(GL_DRAW_FRAMEBUFFER, to.Name());
   glBlitFramebuffer(0, 0, width_, height_, 0, 0, width_, height_, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+}
+
+const Image& Target::Read() {
+  CopyColours(drawn_, resolved_);
   glBindFramebuffer(GL_READ_FRAMEBUFFER, resolved_.Name());
   glBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
   glPixelStorei(GL_PACK_ALIGNMENT, 4);
   glPixelStorei(GL_PACK_ROW_LENGTH, 0);
   const auto width = static_cast<size_t>(width_), height = static_cast<size_t>(height_);
-  const auto upsideDown = std::make_unique_for_overwrite<uint32_t[]>(width * height);
-  glReadPixels(0, 0, width_, height_, GL_BGRA, GL_UNSIGNED_INT_8_8_8_8_REV, upsideDown.get());
-
-  Image image(width_, height_);
+  upsideDown_.resize(width * height);
+  // In the order in which the picture is stored: OpenGL need not convert it.
+  glReadPixels(0, 0, width_, height_, GL_RGBA, GL_UNSIGNED_INT_8_8_8_8_REV, upsideDown_.data());
+  picture_.width = width_;
+  picture_.height = height_;
+  picture_.pixels.resize(width * height);
   for (size_t y = 0; y < height; ++y) {
-    const uint32_t* from = upsideDown.get() + (height - 1 - y) * width;
+    const uint32_t* from = upsideDown_.data() + (height - 1 - y) * width;
     std::transform(from, from + width,
-                   image.pixels.begin() + static_cast<std::ptrdiff_t>(y * width),
-                   [](uint32_t pixel) { return pixel | 0xFF000000U; });
+                   picture_.pixels.begin() + static_cast<std::ptrdiff_t>(y * width), OpaqueArgb);
   }
-  return image;
+  return picture_;
 }
 
 }  // namespace gl

@@ -1,6 +1,8 @@
 // The picture that an executor draws into.
 #pragma once
 
+#include <optional>
+
 #include "platform/gl/objects.h"
 #include "platform/gl/picture_executor.h"
 
@@ -14,8 +16,12 @@ class Target {
 
   /// Draws go here from now on.
   void Bind() const;
-  /// Resolves and reads the picture: top row first, opaque.
-  Image Read() const;
+  /// Keeps the colours drawn so far, sample by sample, for Restore.
+  void Keep();
+  /// Brings them back. Depth stays as it is.
+  void Restore() const;
+  /// Resolves and reads the picture: top row first, opaque. It stays until the next call.
+  const Image& Read();
 
   /// Device pixels.
   int Width() const { return width_; }
@@ -25,9 +31,18 @@ class Target {
   void Attach(const FramebufferName& framebuffer, GLenum attachment,
               const RenderbufferName& storage, GLenum format, int samples) const;
 
-  int width_, height_;
+  struct Kept {
+    FramebufferName framebuffer;
+    RenderbufferName colour;
+  };
+  void CopyColours(const FramebufferName& from, const FramebufferName& to) const;
+
+  int width_, height_, samples_;
   FramebufferName drawn_, resolved_;
   RenderbufferName colour_, depth_, resolvedColour_;
+  std::optional<Kept> kept_;
+  std::vector<uint32_t> upsideDown_;
+  Image picture_;
 };
 
 }  // namespace gl
