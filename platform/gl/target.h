@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "platform/gl/objects.h"
 #include "platform/gl/picture_executor.h"
+#include "platform/gl/resolver.h"
 
 namespace gl {
 
@@ -28,20 +28,21 @@ class Target {
   int Height() const { return height_; }
 
  private:
-  void Attach(const FramebufferName& framebuffer, GLenum attachment,
-              const RenderbufferName& storage, GLenum format, int samples) const;
-
   struct Kept {
     FramebufferName framebuffer;
-    RenderbufferName colour;
+    TextureName colour;
   };
+  void AttachColours(const FramebufferName& framebuffer, const TextureName& storage,
+                     int samples) const;
+  void AttachDepth();
   void CopyColours(const FramebufferName& from, const FramebufferName& to) const;
 
   int width_, height_, samples_;
   FramebufferName drawn_, resolved_;
-  RenderbufferName colour_, depth_, resolvedColour_;
+  TextureName colour_, resolvedColour_;
+  RenderbufferName depth_;
+  Resolver resolver_;
   std::optional<Kept> kept_;
-  std::vector<uint32_t> upsideDown_;
   Image picture_;
 };
 
