@@ -53,7 +53,7 @@ size_t BatchedExecutor::Open(const CommandList& frame) {
   const size_t length = FrameOpening::LengthIn(frame);
   const bool repeats = opening_.Repeats(frame, length);
   if (repeats && openingKept_) {
-    pipeline_.Reopen(frame.commands[0]);
+    pipeline_.Reopen();
     return length;
   }
   DrawCommands(frame, 0, length);

@@ -7,9 +7,9 @@ namespace gl {
 size_t FrameOpening::LengthIn(const CommandList& frame) {
   const std::vector<Command>& commands = frame.commands;
   if (commands.empty() || commands[0].kind != Command::Kind::Clear) return 0;
-  const auto end = std::find_if(commands.begin() + 1, commands.end(), [&](const Command& command) {
+  const auto end = std::find_if(commands.begin() + 1, commands.end(), [](const Command& command) {
     return command.kind != Command::Kind::Draw || command.format != VertexFormat::Screen ||
-           command.primitive == Primitive::PointList || frame.states[command.states].depthWrite;
+           command.primitive == Primitive::PointList;
   });
   const auto length = static_cast<size_t>(end - commands.begin());
   return length > 1 ? length : 0;

@@ -9,7 +9,7 @@
 namespace gl {
 
 /// Knows the opening of the frame before. An opening is a clear and the draws in viewport pixels
-/// that follow it and write no depth: what they leave depends on no camera.
+/// that follow it: what they leave depends on no camera.
 class FrameOpening {
  public:
   /// How many commands of the frame are its opening; 0: it has none.

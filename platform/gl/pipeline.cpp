@@ -78,14 +78,6 @@ void Pipeline::Clear(const Command& clear) {
   glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }
 
-void Pipeline::Reopen(const Command& clear) {
-  target_.Restore();
-  glDepthMask(GL_TRUE);
-  modeSet_ = false;
-  glClearDepth(double{clear.depth});
-  glClear(GL_DEPTH_BUFFER_BIT);
-}
-
 void Pipeline::Prepare(const DrawMode& mode) {
   if (modeSet_ && mode == mode_) return;
   if (!modeSet_ || mode.states != mode_.states) SetStates(frame_->states[mode.states]);

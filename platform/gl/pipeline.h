@@ -27,9 +27,9 @@ class Pipeline {
   void BeginFrame(const CommandList& frame);
   /// Colour and depth, whatever the states say.
   void Clear(const Command& clear);
-  /// Keeps the colours drawn so far; Reopen brings them back over a clear of the depth.
+  /// Keeps what was drawn so far; Reopen begins with it.
   void KeepOpening() { target_.Keep(); }
-  void Reopen(const Command& clear);
+  void Reopen() { target_.Restore(); }
   /// Sets everything that the next draws in this mode need.
   void Prepare(const DrawMode& mode);
   const Image& ReadPicture() { return target_.Read(); }

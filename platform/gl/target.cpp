@@ -38,7 +38,7 @@ Target::Target(const TargetSettings& settings)
       resolver_(settings.samples) {
   CheckSize(width_, height_, settings.samples);
   AttachColours(drawn_, colour_, samples_);
-  AttachDepth();
+  AttachDepth(drawn_, depth_);
   CheckComplete();
   // What was never drawn is black rather than whatever the memory held.
   glDisable(GL_SCISSOR_TEST);
@@ -65,12 +65,14 @@ void Target::AttachColours(const FramebufferName& framebuffer, const TextureName
   glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, kind, storage.Name(), 0);
 }
 
-void Target::AttachDepth() {
+void Target::AttachDepth(const FramebufferName& framebuffer,
+                         const RenderbufferName& storage) const {
   // Zero asks for storage without multisampling.
-  glBindRenderbuffer(GL_RENDERBUFFER, depth_.Name());
+  glBindRenderbuffer(GL_RENDERBUFFER, storage.Name());
   glRenderbufferStorageMultisample(GL_RENDERBUFFER, samples_ > 1 ? samples_ : 0,
                                    GL_DEPTH_COMPONENT16, width_, height_);
-  glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, depth_.Name());
+  glBindFramebuffer(GL_FRAMEBUFFER, framebuffer.Name());
+  glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, storage.Name());
 }
 
 void Target::Bind() const {
@@ -82,22 +84,21 @@ void Target::Keep() {
   if (!kept_) {
     kept_.emplace();
     AttachColours(kept_->framebuffer, kept_->colour, samples_);
+    AttachDepth(kept_->framebuffer, kept_->depth);
     CheckComplete();
   }
-  CopyColours(drawn_, kept_->framebuffer);
-  Bind();
+  Copy(drawn_, kept_->framebuffer);
 }
 
-void Target::Restore() const {
-  CopyColours(kept_->framebuffer, drawn_);
-  Bind();
-}
+void Target::Restore() const { Copy(kept_->framebuffer, drawn_); }
 
-void Target::CopyColours(const FramebufferName& from, const FramebufferName& to) const {
+void Target::Copy(const FramebufferName& from, const FramebufferName& to) const {
   glDisable(GL_SCISSOR_TEST);
   glBindFramebuffer(GL_READ_FRAMEBUFFER, from.Name());
   glBindFramebuffer(GL_DRAW_FRAMEBUFFER, to.Name());
-  glBlitFramebuffer(0, 0, width_, height_, 0, 0, width_, height_, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+  glBlitFramebuffer(0, 0, width_, height_, 0, 0, width_, height_,
+                    GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT, GL_NEAREST);
+  Bind();
 }
 
 const Image& Target::Read() {

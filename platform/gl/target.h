@@ -16,9 +16,8 @@ class Target {
 
   /// Draws go here from now on.
   void Bind() const;
-  /// Keeps the colours drawn so far, sample by sample, for Restore.
+  /// Keeps colours and depths as they are, sample by sample, for Restore.
   void Keep();
-  /// Brings them back. Depth stays as it is.
   void Restore() const;
   /// Resolves and reads the picture: top row first, opaque. It stays until the next call.
   const Image& Read();
@@ -31,11 +30,12 @@ class Target {
   struct Kept {
     FramebufferName framebuffer;
     TextureName colour;
+    RenderbufferName depth;
   };
   void AttachColours(const FramebufferName& framebuffer, const TextureName& storage,
                      int samples) const;
-  void AttachDepth();
-  void CopyColours(const FramebufferName& from, const FramebufferName& to) const;
+  void AttachDepth(const FramebufferName& framebuffer, const RenderbufferName& storage) const;
+  void Copy(const FramebufferName& from, const FramebufferName& to) const;
 
   int width_, height_, samples_;
   FramebufferName drawn_, resolved_;
