@@ -199,6 +199,16 @@ RampRecord DescribeRamp(const clsRamp& ramp, TableIndex& index) {
   return record;
 }
 
+StarRecord DescribeStar(const clsStar& star) {
+  return {ToSingle(star.Xpos()), ToSingle(star.Ypos()), ToSingle(star.Zpos())};
+}
+
+template <typename Object, typename Record, typename Describe>
+void DescribeAll(std::span<Object> objects, std::vector<Record>& records, Describe describe) {
+  records.reserve(objects.size());
+  for (const Object& object : objects) records.push_back(describe(object));
+}
+
 }  // namespace
 
 BuiltTrack BuildTrack(const LevelFile& level) {
@@ -228,22 +238,13 @@ LevelFile DescribeDocument() {
   level.TrackRecords = Document.TrackRecords;
   level.TextureNames = Document.TextureNames;
   level.BackgroundName = Document.BackgroundName;
-  level.Blocks.reserve(static_cast<size_t>(Document.BlockCount + 1));
-  for (const clsblock& block : Live(Document.Blocks, Document.BlockCount)) {
-    level.Blocks.push_back(DescribeBlock(block, index));
-  }
-  level.Platforms.reserve(static_cast<size_t>(Document.PlatformCount + 1));
-  for (const clsMovingPlatform& platform : Live(Document.Platforms, Document.PlatformCount)) {
-    level.Platforms.push_back(DescribePlatform(platform, index));
-  }
-  level.Ramps.reserve(static_cast<size_t>(Document.RampCount + 1));
-  for (const clsRamp& ramp : Live(Document.Ramps, Document.RampCount)) {
-    level.Ramps.push_back(DescribeRamp(ramp, index));
-  }
-  level.Stars.reserve(static_cast<size_t>(Document.StarCount + 1));
-  for (const clsStar& star : Live(Document.Stars, Document.StarCount)) {
-    level.Stars.push_back({ToSingle(star.Xpos()), ToSingle(star.Ypos()), ToSingle(star.Zpos())});
-  }
+  DescribeAll(Live(Document.Blocks, Document.BlockCount), level.Blocks,
+              [&](const clsblock& block) { return DescribeBlock(block, index); });
+  DescribeAll(Live(Document.Platforms, Document.PlatformCount), level.Platforms,
+              [&](const clsMovingPlatform& p) { return DescribePlatform(p, index); });
+  DescribeAll(Live(Document.Ramps, Document.RampCount), level.Ramps,
+              [&](const clsRamp& ramp) { return DescribeRamp(ramp, index); });
+  DescribeAll(Live(Document.Stars, Document.StarCount), level.Stars, DescribeStar);
   level.StoredGravity = ToSingle(Document.Gravity / 2.5 * 1000.0);
   level.TrackSettings = Document.TrackSettings;
   return level;

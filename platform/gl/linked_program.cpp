@@ -1,5 +1,7 @@
 #include "platform/gl/linked_program.h"
 
+#include <array>
+
 #include "platform/error.h"
 
 namespace gl {
