@@ -8,7 +8,7 @@
 namespace bench {
 namespace {
 
-constexpr double kBurst = 100;      // milliseconds
+constexpr double kBurst = 60;       // milliseconds
 constexpr double kSlowFrame = 250;  // milliseconds
 constexpr int kMostFrames = 24;
 
@@ -19,15 +19,15 @@ double ThreadMilliseconds() {
 }
 
 /// Draws the first frames, which make what later ones find; returns the milliseconds of another.
-double FrameTime(const Variant& variant) {
-  const double first = Time([&] { variant.draw(0); }).wall;
-  return first > 2 * kSlowFrame ? first : Time([&] { variant.draw(1); }).wall;
+double FrameTime(Variant& variant) {
+  const double first = Time([&] { variant.DrawNext(); }).wall;
+  return first > 2 * kSlowFrame ? first : Time([&] { variant.DrawNext(); }).wall;
 }
 
-Times Burst(const Variant& variant, bool slow, int& number) {
-  if (!slow) variant.draw(number++);
+Times Burst(Variant& variant, bool slow) {
+  if (!slow) variant.DrawNext();
   const Times sum = Time([&] {
-    for (int frame = 0; frame < variant.frames; ++frame) variant.draw(number++);
+    for (int frame = 0; frame < variant.frames; ++frame) variant.DrawNext();
   });
   return {sum.wall / variant.frames, sum.caller / variant.frames};
 }
@@ -54,10 +54,9 @@ void RunInterleaved(std::vector<Variant>& variants, const Rounds& rounds) {
     round += frame * (variant.frames + (slow.back() ? 0 : 1));
   }
   const int affordable = static_cast<int>(rounds.seconds * 1000 / round);
-  int number = 0;
   for (int turn = std::clamp(affordable, rounds.least, rounds.most); turn > 0; --turn) {
     for (size_t i = 0; i < variants.size(); ++i) {
-      variants[i].bursts.push_back(Burst(variants[i], slow[i], number));
+      variants[i].bursts.push_back(Burst(variants[i], slow[i]));
     }
   }
 }
@@ -85,6 +84,7 @@ double MedianRatio(const Variant& above, const Variant& below, double Times::*wh
 
 double MedianTime(int runs, const std::function<void()>& action) {
   std::vector<double> times;
+  times.reserve(static_cast<size_t>(runs));
   for (int run = 0; run < runs; ++run) times.push_back(Time(action).wall);
   return Median(std::move(times));
 }

@@ -21,6 +21,10 @@ struct Variant {
   std::function<void(int frame)> draw;
   int frames = 0;             ///< of a burst; 0: as many as a burst of some length takes
   std::vector<Times> bursts;  ///< filled by RunInterleaved: the means of one frame
+  int drawn = 0;
+
+  /// Each frame's number is the one after the last.
+  void DrawNext() { draw(drawn++); }
 };
 
 /// How often every variant has its turn: at most `most` times, fewer when all turns would take
@@ -31,8 +35,7 @@ struct Rounds {
 };
 
 /// A burst of each variant after the other, in rounds. Each burst of quick frames begins with one
-/// that is not counted, which brings back what the others drove out of the caches. The frame's
-/// number differs from one frame to the next.
+/// that is not counted, which brings back what the others drove out of the caches.
 void RunInterleaved(std::vector<Variant>& variants, const Rounds& rounds);
 
 double Median(std::vector<double> values);

@@ -53,7 +53,10 @@ int SceneFigures::Measure(BenchEditor& editor) {
 void SceneFigures::MeasureTimes(Schemes& schemes) const {
   std::vector<Variant> variants;
   const auto add = [&](const char* name, Image (Schemes::*draw)(int), int frames) {
-    variants.push_back({name, [&schemes, draw](int frame) { (schemes.*draw)(frame); }, frames, {}});
+    Variant& variant = variants.emplace_back();
+    variant.name = name;
+    variant.draw = [&schemes, draw](int frame) { (schemes.*draw)(frame); };
+    variant.frames = frames;
   };
   const bool corridor = layout_ == Layout::Corridor, many = count_ == kManyPieces;
   add("batched", &Schemes::DrawBatched, 0);
@@ -61,7 +64,7 @@ void SceneFigures::MeasureTimes(Schemes& schemes) const {
   if (many) add("plain", &Schemes::DrawPlain, 1);
   if (many && corridor) add("naive", &Schemes::DrawNaive, 2);
   if (count_ == kFew && corridor) add("empty", &Schemes::DrawEmpty, 0);
-  RunInterleaved(variants, report_.Choose<Rounds>({3, 9, 12}, {1, 3, 3}));
+  RunInterleaved(variants, report_.Choose<Rounds>({3, 31, 12}, {1, 5, 2}));
   PrintTimes(variants);
 }
 

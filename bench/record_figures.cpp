@@ -14,7 +14,7 @@ double RecordTime(const Report& report) {
     LookAtDepth(kSceneDepth + static_cast<float>(frame % 8) / 2);
     RenderFrame();
   };
-  RunInterleaved(record, {3, report.Choose(9, 3), 12});
+  RunInterleaved(record, {3, report.Choose(31, 5), 12});
   return MedianOf(record[0], &Times::wall);
 }
 

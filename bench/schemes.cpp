@@ -30,6 +30,7 @@ size_t PlaceOf(int frame) { return static_cast<size_t>(frame % Schemes::kPlaces)
 Schemes::Schemes(BenchEditor& editor)
     : editor_(editor), floor_(editor.target), naive_(editor.target) {
   std::vector<CommandList> frames;
+  frames.reserve(kPlaces);
   for (int place = 0; place < kPlaces; ++place) frames.push_back(Recorded(place));
   floor_.Prepare(std::move(frames));
   naive_.Load();
