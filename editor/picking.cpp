@@ -60,10 +60,11 @@ class NearestFace {
 };
 
 template <typename Kind>
-void TestFaces(NearestFace& nearest, Kind kind) {
+void TestFaces(const PickRay& ray, NearestFace& nearest, Kind kind) {
   constexpr int16_t faces = std::is_same_v<typename Kind::Piece, clsStar> ? 4 : 5;
   const auto pieces = kind.Pieces();
   for (size_t i = 0; i < pieces.size(); ++i) {
+    if (!ray.MayMeet(pieces[i].Drawn())) continue;
     const auto planes = pieces[i].DrawnPlanes();
     for (int16_t plane = 1; plane <= faces; ++plane) {
       nearest.Test(planes[static_cast<size_t>(plane - 1)], pieces[i].GetFaceCorners(plane),
@@ -74,7 +75,7 @@ void TestFaces(NearestFace& nearest, Kind kind) {
 
 NearestFace FindFace(const PickRay& ray) {
   NearestFace nearest(ray);
-  VisitKinds([&nearest](auto kind) { TestFaces(nearest, kind); });
+  VisitKinds([&](auto kind) { TestFaces(ray, nearest, kind); });
   return nearest;
 }
 

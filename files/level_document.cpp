@@ -20,12 +20,13 @@ std::vector<std::string> ResolveTextures(const std::vector<std::string>& names) 
   return resolved;
 }
 
+/// Makes pieces of records. Each picture and the stars' model are asked of their files once.
 class Builder {
  public:
   explicit Builder(const std::vector<std::string>& names)
-      : textures_(ResolveTextures(names)), starModel_(paths::InInstallFolder("\\models\\orb.x")) {}
+      : names_(ResolveTextures(names)), pictures_(names_.size()) {}
 
-  void Fill(clsblock& block, const BlockRecord& record) const {
+  void Fill(clsblock& block, const BlockRecord& record) {
     block.create(0, 0, 0, 1, 1, 1);
     block.Xpos(record.Xpos);
     block.Ypos(record.Ypos);
@@ -39,7 +40,7 @@ class Builder {
     block.changeactioncode(record.changeactioncode);
   }
 
-  void Fill(clsRamp& ramp, const RampRecord& record) const {
+  void Fill(clsRamp& ramp, const RampRecord& record) {
     ramp.create(0, 0, 0);
     ramp.Xpos(ToLong(record.Xpos));
     ramp.Ypos(ToLong(record.Ypos));
@@ -52,7 +53,7 @@ class Builder {
     LoadTextures(ramp, record.Textures);
   }
 
-  void Fill(clsMovingPlatform& platform, const PlatformRecord& record) const {
+  void Fill(clsMovingPlatform& platform, const PlatformRecord& record) {
     platform.create(0, 0, 0);
     platform.Xpos(record.Box.Xpos);
     platform.Ypos(record.Box.Ypos);
@@ -71,16 +72,16 @@ class Builder {
     LoadTextures(platform, record.Box.Textures);
   }
 
-  void Fill(clsStar& star, const StarRecord& record) const {
-    star.load(starModel_);
+  void Fill(clsStar& star, const StarRecord& record) {
+    if (!star_.visible()) star_.load(paths::InInstallFolder("\\models\\orb.x"));
+    star = star_;
     star.Xpos(ToLong(record.Xpos));
     star.Ypos(ToLong(record.Ypos));
     star.Zpos(ToLong(record.Zpos));
   }
 
   template <typename Record, typename Object>
-  void Build(const std::vector<Record>& records, std::vector<Object>& objects,
-             int32_t& count) const {
+  void Build(const std::vector<Record>& records, std::vector<Object>& objects, int32_t& count) {
     objects.resize(records.size());
     for (size_t i = 0; i < records.size(); ++i) Fill(objects[i], records[i]);
     count = static_cast<int32_t>(records.size()) - 1;
@@ -88,49 +89,70 @@ class Builder {
 
  private:
   template <typename Object, size_t N>
-  void LoadTextures(Object& object, const std::array<int16_t, N>& indices) const {
+  void LoadTextures(Object& object, const std::array<int16_t, N>& indices) {
     for (size_t face = 0; face < N; ++face) {
-      object.Texture(textures_.at(static_cast<size_t>(indices[face])),
-                     std::string(1, static_cast<char>('A' + face)), Document.TextureDir);
+      const auto index = static_cast<size_t>(indices[face]);
+      FacePicturePtr& picture = pictures_.at(index);
+      if (!picture) picture = LoadFacePicture(names_[index], Document.TextureDir);
+      object.Picture(face, picture);
     }
   }
 
-  std::vector<std::string> textures_;
-  std::string starModel_;
+  std::vector<std::string> names_;
+  std::vector<FacePicturePtr> pictures_;  ///< of these names; null until one is needed
+  clsStar star_;                          ///< what all are copies of, once it is loaded
 };
 
-std::array<std::string, 4> FaceNames(const BoxObject& box) {
-  return {box.GetTextureA(), box.GetTextureB(), box.GetTextureC(), box.GetTextureD()};
-}
+/// Where the document's table has each picture's name.
+class TableIndex {
+ public:
+  /// Of the table as it stands.
+  TableIndex() {
+    for (int32_t i = 0; i <= Document.TextureCount; ++i) {
+      byName_.emplace(Document.TextureNames[static_cast<size_t>(i)], static_cast<int16_t>(i));
+    }
+  }
 
-std::array<std::string, 2> FaceNames(const clsRamp& ramp) {
-  return {ramp.GetTextureA(), ramp.GetTextureB()};
-}
+  /// Throws std::out_of_range for a name that is not in the table.
+  int16_t Of(const FacePicturePtr& picture) {
+    const auto [known, isNew] = byPicture_.try_emplace(picture.get());
+    if (isNew) known->second = byName_.at(NameOf(picture));
+    return known->second;
+  }
+  /// Appends what is not in the table yet.
+  void Add(const FacePicturePtr& picture) {
+    if (byPicture_.contains(picture.get())) return;
+    if (!byName_.contains(NameOf(picture))) Append(NameOf(picture));
+    Of(picture);
+  }
 
-/// Index of each name of the document's table.
-using TableIndex = std::unordered_map<std::string, int16_t>;
+ private:
+  void Append(const std::string& name) {
+    Document.TextureCount = ToInteger(Document.TextureCount + 1.0);
+    byName_.emplace(name, Document.TextureCount);
+    Document.TextureNames.resize(static_cast<size_t>(Document.TextureCount) + 1);
+    Document.TextureNames.back() = name;
+  }
+
+  std::unordered_map<std::string, int16_t> byName_;
+  std::unordered_map<const FacePicture*, int16_t> byPicture_;  ///< found by name before
+};
 
 template <typename Object>
 void AddNames(TableIndex& index, std::span<Object> objects) {
   for (const Object& object : objects) {
-    for (const std::string& name : FaceNames(object)) {
-      if (index.contains(name)) continue;
-      Document.TextureCount = ToInteger(Document.TextureCount + 1.0);
-      index.emplace(name, Document.TextureCount);
-      Document.TextureNames.resize(static_cast<size_t>(Document.TextureCount) + 1);
-      Document.TextureNames.back() = name;
-    }
+    for (size_t face = 0; face < Object::kFaces; ++face) index.Add(object.Picture(face));
   }
 }
 
 template <typename Object, size_t N>
-void Describe(const Object& object, const TableIndex& index, std::array<int16_t, N>& textures) {
-  const auto names = FaceNames(object);
-  for (size_t face = 0; face < N; ++face) textures[face] = index.at(names[face]);
+void Describe(const Object& object, TableIndex& index, std::array<int16_t, N>& textures) {
+  static_assert(N == Object::kFaces);
+  for (size_t face = 0; face < N; ++face) textures[face] = index.Of(object.Picture(face));
 }
 
 template <typename Object>
-BlockRecord DescribeBox(const Object& box, const TableIndex& index) {
+BlockRecord DescribeBox(const Object& box, TableIndex& index) {
   BlockRecord record;
   record.scaleX = box.scaleX();
   record.scaleY = box.scaleY();
@@ -142,7 +164,7 @@ BlockRecord DescribeBox(const Object& box, const TableIndex& index) {
   return record;
 }
 
-BlockRecord DescribeBlock(const clsblock& block, const TableIndex& index) {
+BlockRecord DescribeBlock(const clsblock& block, TableIndex& index) {
   BlockRecord record = DescribeBox(block, index);
   record.Xpos = block.Xpos();
   record.Ypos = block.Ypos();
@@ -151,7 +173,7 @@ BlockRecord DescribeBlock(const clsblock& block, const TableIndex& index) {
 }
 
 /// Where and how the platform starts, wherever it is now.
-PlatformRecord DescribePlatform(const clsMovingPlatform& platform, const TableIndex& index) {
+PlatformRecord DescribePlatform(const clsMovingPlatform& platform, TableIndex& index) {
   PlatformRecord record;
   record.Box = DescribeBox(platform, index);
   record.Box.Xpos = platform.GetInitalXpos();
@@ -164,7 +186,7 @@ PlatformRecord DescribePlatform(const clsMovingPlatform& platform, const TableIn
   return record;
 }
 
-RampRecord DescribeRamp(const clsRamp& ramp, const TableIndex& index) {
+RampRecord DescribeRamp(const clsRamp& ramp, TableIndex& index) {
   RampRecord record{ToSingle(ramp.Xpos()),
                     ToSingle(ramp.Ypos()),
                     ToSingle(ramp.Zpos()),
@@ -180,7 +202,7 @@ RampRecord DescribeRamp(const clsRamp& ramp, const TableIndex& index) {
 }  // namespace
 
 BuiltTrack BuildTrack(const LevelFile& level) {
-  const Builder builder(level.TextureNames);
+  Builder builder(level.TextureNames);
   BuiltTrack track;
   PieceCollections& pieces = track.pieces;
   builder.Build(level.Blocks, pieces.Blocks, pieces.BlockCount);
@@ -202,22 +224,23 @@ void BuildTextureTable() {
 
 LevelFile DescribeDocument() {
   TableIndex index;
-  for (int32_t i = 0; i <= Document.TextureCount; ++i) {
-    index.emplace(Document.TextureNames[static_cast<size_t>(i)], static_cast<int16_t>(i));
-  }
   LevelFile level;
   level.TrackRecords = Document.TrackRecords;
   level.TextureNames = Document.TextureNames;
   level.BackgroundName = Document.BackgroundName;
+  level.Blocks.reserve(static_cast<size_t>(Document.BlockCount + 1));
   for (const clsblock& block : Live(Document.Blocks, Document.BlockCount)) {
     level.Blocks.push_back(DescribeBlock(block, index));
   }
+  level.Platforms.reserve(static_cast<size_t>(Document.PlatformCount + 1));
   for (const clsMovingPlatform& platform : Live(Document.Platforms, Document.PlatformCount)) {
     level.Platforms.push_back(DescribePlatform(platform, index));
   }
+  level.Ramps.reserve(static_cast<size_t>(Document.RampCount + 1));
   for (const clsRamp& ramp : Live(Document.Ramps, Document.RampCount)) {
     level.Ramps.push_back(DescribeRamp(ramp, index));
   }
+  level.Stars.reserve(static_cast<size_t>(Document.StarCount + 1));
   for (const clsStar& star : Live(Document.Stars, Document.StarCount)) {
     level.Stars.push_back({ToSingle(star.Xpos()), ToSingle(star.Ypos()), ToSingle(star.Zpos())});
   }

@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "platform/resources.h"
+#include "level/face_picture.h"
 
 namespace AnimatedTextures {
 
@@ -13,7 +13,7 @@ inline std::array<std::string, 4> AnimationFrames = {"AnimationTest_0.bmp", "Ani
                                                      "AnimationTest_2.bmp", "AnimationTest_3.bmp"};
 
 /// The frames' pictures, each null until it is needed.
-using Pictures = std::array<TexturePtr, 4>;
+using Pictures = std::array<FacePicturePtr, 4>;
 
 /// Whether Name is one of the frames; letter case counts.
 bool IsAnimatedTexture(const std::string& Name);

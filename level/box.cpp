@@ -1,6 +1,7 @@
 #include "level/box.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "level/maths.h"
 #include "platform/numbers.h"
@@ -17,31 +18,19 @@ constexpr std::array<Vector3, 24> kPositions = {{
     {0, 1, 1}, {1, 1, 1}, {0, 1, 0}, {1, 1, 1}, {1, 1, 0}, {0, 1, 0},
 }};
 
-enum Face : size_t { Front, Left, Right, Top };
-Face FaceOf(size_t vertex) { return static_cast<Face>(vertex / 6); }
+enum FaceNumber : size_t { Front, Left, Right, Top };
 
-float TextureU(const Vertex& v, Face face, const Factors& f) {
-  switch (face) {
-    case Left:
-      return ToSingle((1.0 - v.z) * f.z);
-    case Right:
-      return ToSingle(v.z * f.z);
-    case Front:
-    case Top:
-      break;
-  }
-  return ToSingle(v.x * f.x);
+Shape::Face Shape::*FaceOf(FaceNumber number) {
+  return number == Front ? &Shape::front : number == Top ? &Shape::top : &Shape::sides;
 }
 
-float TextureV(const Vertex& v, Face face, const Factors& f) {
-  return face == Top ? ToSingle((1.0 - v.z) * f.z) : ToSingle((1.0 - v.y) * f.y);
+float TextureU(const Vector3& v, FaceNumber number, float repeats) {
+  const double along = number == Left ? 1.0 - v.z : double{number == Right ? v.z : v.x};
+  return ToSingle(along * repeats);
 }
 
-void Stretch(Vertices& vertices, size_t first, size_t end, const Factors& factors) {
-  for (size_t i = first; i < end; ++i) {
-    vertices[i].tu = TextureU(vertices[i], FaceOf(i), factors);
-    vertices[i].tv = TextureV(vertices[i], FaceOf(i), factors);
-  }
+float TextureV(const Vector3& v, FaceNumber number, float repeats) {
+  return ToSingle((1.0 - (number == Top ? v.z : v.y)) * repeats);
 }
 
 /// Three corners of a face, from which plane and bounds are made.
@@ -66,54 +55,77 @@ std::array<Vector3, 3> PlanePoints(const Vector3& p, const Vector3& s, int plane
 
 }  // namespace
 
-Vertices Unit() {
+Shape Unit() {
+  Shape shape{{1, 1, 1, 0, 0}, {1, 1, 1, 0, 0}, {1, 1, 1, 0, 0}};
+  Colour(shape, kSideColour, kTopColour);
+  return shape;
+}
+
+bool IsVisible(const Shape& shape) {
+  return (shape.front.placed | shape.sides.placed | shape.top.placed) != 0;
+}
+
+Vertices MakeVertices(const Shape& shape) {
   Vertices vertices;
   for (size_t i = 0; i < vertices.size(); ++i) {
-    const Vector3& p = kPositions[i];
-    vertices[i] = DirectX::MakeVertex(p.x, p.y, p.z, 0, 0, 0, 0);
+    const auto number = static_cast<FaceNumber>(i / 6);
+    const Shape::Face& face = shape.*FaceOf(number);
+    const Vector3 p = face.placed != 0 ? kPositions[i] : Vector3();
+    vertices[i] = DirectX::MakeVertex(p.x, p.y, p.z, p.y == 1 ? face.high : face.low, 0,
+                                      TextureU(p, number, face.u), TextureV(p, number, face.v));
   }
-  Stretch(vertices, 0, vertices.size(), {});
-  Colour(vertices, kSideColour, kTopColour);
   return vertices;
 }
 
-void StretchSides(Vertices& vertices, const Factors& factors) {
-  Stretch(vertices, 0, kFirstTopVertex, factors);
+void StretchSides(Shape& shape, const Factors& factors) {
+  shape.front.u = ToSingle(factors.x);
+  shape.sides.u = ToSingle(factors.z);
+  shape.front.v = shape.sides.v = ToSingle(factors.y);
 }
 
-void StretchTop(Vertices& vertices, const Factors& factors) {
-  Stretch(vertices, kFirstTopVertex, vertices.size(), factors);
+void StretchTop(Shape& shape, const Factors& factors) {
+  shape.top.u = ToSingle(factors.x);
+  shape.top.v = ToSingle(factors.z);
 }
 
-void Resize(Vertices& vertices, Axis axis, double sideFactor, double topFactor,
+void Resize(Shape& shape, Axis axis, double sideFactor, double topFactor,
             const std::array<uint32_t, 2>& sideColours) {
-  for (size_t i = 0; i < vertices.size(); ++i) {
-    Vertex& v = vertices[i];
-    const Face face = FaceOf(i);
-    const double factor = face == Top ? topFactor : sideFactor;
-    const Factors factors{factor, factor, factor};
-    const bool alongU = face == Left || face == Right ? axis == Axis::Z : axis == Axis::X;
-    const bool alongV = face == Top ? axis == Axis::Z : axis == Axis::Y;
-    if (!alongU && !alongV) continue;
-    // The whole vertex but its other coordinate: the block of a new track is never created.
-    const Vector3& position = kPositions[i];
-    v = DirectX::MakeVertex(position.x, position.y, position.z, v.colour, 0, v.tu, v.tv);
-    if (alongU) v.tu = TextureU(v, face, factors);
-    if (alongV) v.tv = TextureV(v, face, factors);
-    v.colour = face == Top ? kTopColour : sideColours[v.y == 1 ? 1 : 0];
-  }
+  const auto side = [&](Shape::Face& face, float Shape::Face::*repeats) {
+    face.*repeats = ToSingle(sideFactor);
+    face.low = sideColours[0];
+    face.high = sideColours[1];
+    face.placed = 1;
+  };
+  // A new track's block is never created: a face has its place from the first size on.
+  if (axis == Axis::X) side(shape.front, &Shape::Face::u);
+  if (axis == Axis::Y) side(shape.front, &Shape::Face::v);
+  if (axis == Axis::Y) side(shape.sides, &Shape::Face::v);
+  if (axis == Axis::Z) side(shape.sides, &Shape::Face::u);
+  if (axis == Axis::Y) return;
+  (axis == Axis::X ? shape.top.u : shape.top.v) = ToSingle(topFactor);
+  shape.top.low = shape.top.high = kTopColour;
+  shape.top.placed = 1;
 }
 
-void Colour(Vertices& vertices, uint32_t sides, uint32_t top) {
-  for (size_t i = 0; i < vertices.size(); ++i)
-    vertices[i].colour = i < kFirstTopVertex ? sides : top;
+void Colour(Shape& shape, uint32_t sides, uint32_t top) {
+  for (Shape::Face* face : {&shape.front, &shape.sides}) face->low = face->high = sides;
+  shape.top.low = shape.top.high = top;
+}
+
+CollisionPlane Plane(const Vector3& position, const Vector3& size, int planenumber) {
+  if (planenumber < 1 || planenumber > kPlaneCount) {
+    throw std::out_of_range("Subscript out of range");
+  }
+  const auto [p1, p2, p3] = PlanePoints(position, size, planenumber);
+  CollisionPlane plane;
+  maths::PlaneFromPoints(plane, p1, p2, p3);
+  return plane;
 }
 
 std::array<CollisionPlane, 5> Planes(const Vector3& position, const Vector3& size) {
   std::array<CollisionPlane, 5> planes;
   for (int number = 1; number <= kPlaneCount; ++number) {
-    const auto [p1, p2, p3] = PlanePoints(position, size, number);
-    maths::PlaneFromPoints(planes[static_cast<size_t>(number - 1)], p1, p2, p3);
+    planes[static_cast<size_t>(number - 1)] = Plane(position, size, number);
   }
   return planes;
 }
@@ -156,11 +168,9 @@ int FaceIndex(const std::string& face) {
   return letter >= 'A' && letter <= 'D' ? letter - 'A' : -1;
 }
 
-void PlaceInWorld(const Vector3& position, const Vector3& size, Matrix4& worldMatrix,
-                  Matrix4& scaleMatrix) {
-  scaleMatrix = d3dx::Scaling(size.x, size.y, size.z);
+void PlaceInWorld(const Vector3& position, const Vector3& size) {
   // Scaling × translation, written out: every track draws thousands of these.
-  worldMatrix = scaleMatrix;
+  Matrix4 worldMatrix = d3dx::Scaling(size.x, size.y, size.z);
   worldMatrix.m[3] = {position.x, position.y, position.z, 1};
   DirectX::D3DDevice->SetTransform(Transform::World, worldMatrix);
 }

@@ -29,22 +29,38 @@ struct Factors {
   double x = 1, y = 1, z = 1;
 };
 
-/// Positions, unscaled texture coordinates, flat colours.
-Vertices Unit();
+/// What tells the vertices of one box from those of another.
+struct Shape {
+  struct Face {
+    uint32_t placed = 0;         ///< 1: its corners have their places; 0: all lie at the origin
+    float u = 0, v = 0;          ///< texture repeats
+    uint32_t low = 0, high = 0;  ///< colours by height
+  };
+  Face front, sides, top;  ///< the left and the right side are alike
+};
 
-/// Rewrites the texture coordinates of the side faces, or of the top face.
-void StretchSides(Vertices& vertices, const Factors& factors);
-void StretchTop(Vertices& vertices, const Factors& factors);
+/// Unscaled texture coordinates, flat colours.
+Shape Unit();
+/// Some face has its place.
+bool IsVisible(const Shape& shape);
+Vertices MakeVertices(const Shape& shape);
+
+/// Sets the texture repeats of the side faces, or of the top face.
+void StretchSides(Shape& shape, const Factors& factors);
+void StretchTop(Shape& shape, const Factors& factors);
 
 enum class Axis { X, Y, Z };
-/// Rewrites the vertices of the faces that span `axis`: positions, the texture coordinate that runs
-/// along the axis, and colours, the sides by their height (0 or 1), the top white.
-void Resize(Vertices& vertices, Axis axis, double sideFactor, double topFactor,
+/// For the faces that span `axis`: places, the texture repeats that run along the axis, and
+/// colours, the sides by their height (0 or 1), the top white.
+void Resize(Shape& shape, Axis axis, double sideFactor, double topFactor,
             const std::array<uint32_t, 2>& sideColours);
 
-void Colour(Vertices& vertices, uint32_t sides, uint32_t top);
+void Colour(Shape& shape, uint32_t sides, uint32_t top);
 
-/// Planes 1 to 5 of the box with this smallest corner and these sizes; index 0 is plane 1.
+/// Plane 1 to 5 of the box with this smallest corner and these sizes; throws std::out_of_range
+/// otherwise.
+CollisionPlane Plane(const Vector3& position, const Vector3& size, int planenumber);
+/// All of them; index 0 is plane 1.
 std::array<CollisionPlane, 5> Planes(const Vector3& position, const Vector3& size);
 /// The face's axis-aligned box; zero for an unknown plane.
 void PlaneBounds(const Vector3& position, const Vector3& size, int planenumber, Vector3& greatest,
@@ -56,7 +72,6 @@ Corners FaceCorners(const Vector3& position, const Vector3& size, int planenumbe
 int FaceIndex(const std::string& face);
 
 /// Sets the world transform that scales the unit box, then moves it to its place.
-void PlaceInWorld(const Vector3& position, const Vector3& size, Matrix4& worldMatrix,
-                  Matrix4& scaleMatrix);
+void PlaceInWorld(const Vector3& position, const Vector3& size);
 
 }  // namespace box

@@ -2,31 +2,31 @@
 
 #include <stdexcept>
 
+#include "level/shared_buffers.h"
 #include "platform/numbers.h"
 #include "render/device/DirectX.h"
 
 namespace {
 
-size_t PlaneIndex(int16_t planenumber) {
-  if (planenumber < 1 || planenumber > box::kPlaneCount) {
-    throw std::out_of_range("Subscript out of range");
-  }
-  return static_cast<size_t>(planenumber - 1);
+SharedBuffers<box::Shape>& Buffers() {
+  static SharedBuffers<box::Shape> buffers;
+  return buffers;
 }
 
 }  // namespace
 
-void BoxObject::scaleX(float value) { Resize(box::Axis::X, size_.x, value); }
-void BoxObject::scaleY(float value) { Resize(box::Axis::Y, size_.y, value); }
-void BoxObject::scaleZ(float value) { Resize(box::Axis::Z, size_.z, value); }
+void BoxObject::scaleX(float value) { Resize(box::Axis::X, &Vector3::x, value); }
+void BoxObject::scaleY(float value) { Resize(box::Axis::Y, &Vector3::y, value); }
+void BoxObject::scaleZ(float value) { Resize(box::Axis::Z, &Vector3::z, value); }
 
-void BoxObject::Resize(box::Axis axis, float& size, float value) {
+void BoxObject::Resize(box::Axis axis, float Vector3::*size, float value) {
   if (value <= 0) return;
-  size = value;
+  LeavePlanes();
+  size_.*size = value;
   const double sideFactor = ScaleTextureSide_ > 0 ? ScaleTextureSide_ : double{value};
   const double topFactor = ScaleTextureTop_ > 0 ? ScaleTextureTop_ : double{value};
-  box::Resize(Vertices_, axis, sideFactor, topFactor,
-              axis == box::Axis::Z ? kind_->resizedSidesDepth : kind_->resizedSides);
+  box::Resize(look_->shape, axis, sideFactor, topFactor,
+              axis == box::Axis::Z ? look_->kind->resizedSidesDepth : look_->kind->resizedSides);
   RefreshVertexBuffer();
 }
 
@@ -35,31 +35,32 @@ void BoxObject::AlignTexureCoords(int16_t Side, int16_t value) {
   const box::Factors factors = value != 0 ? box::Factors{stretch, stretch, stretch}
                                           : box::Factors{size_.x, size_.y, size_.z};
   if (Side == 1) {
-    box::StretchSides(Vertices_, factors);
+    box::StretchSides(look_->shape, factors);
     ScaleTextureSide_ = ToByte(value);
   } else {
-    box::StretchTop(Vertices_, factors);
+    box::StretchTop(look_->shape, factors);
     ScaleTextureTop_ = ToByte(value);
   }
   RefreshVertexBuffer();
 }
 
 void BoxObject::SelectBlock() {
-  box::Colour(Vertices_, box::kSelectedColour, box::kSelectedColour);
+  box::Colour(look_->shape, box::kSelectedColour, box::kSelectedColour);
   RefreshVertexBuffer();
 }
 
 void BoxObject::UnSelectBlock() {
-  box::Colour(Vertices_, box::kSideColour, box::kTopColour);
+  box::Colour(look_->shape, box::kSideColour, box::kTopColour);
   RefreshVertexBuffer();
 }
 
-const CollisionPlane& BoxObject::GetCollisionPlane(int16_t planenumber) const {
-  return Planes_[PlaneIndex(planenumber)];
+CollisionPlane BoxObject::GetCollisionPlane(int16_t planenumber) const {
+  const Extent at = planesBehind_ ? look_->planes : Drawn();
+  return box::Plane(at.corner, at.size, planenumber);
 }
 
 Vector3 BoxObject::GetPlaneNormal(int16_t planenumber) const {
-  const CollisionPlane& plane = GetCollisionPlane(planenumber);
+  const CollisionPlane plane = GetCollisionPlane(planenumber);
   return {plane.a, plane.b, plane.c};
 }
 
@@ -72,27 +73,31 @@ box::Corners BoxObject::GetFaceCorners(int16_t planenumber) const {
   return box::FaceCorners(position_, size_, planenumber);
 }
 
+// Refused at once rather than when somebody meets them.
+void BoxObject::CheckPlanes() const { (void)DrawnPlanes(); }
+
 void BoxObject::StartGeometry() {
-  Vertices_ = box::Unit();
+  look_->shape = box::Unit();
   RefreshVertexBuffer();
 }
 
 void BoxObject::RefreshVertexBuffer() {
-  VertexBuffer_ = DirectX::D3DDevice->CreateVertexBuffer(Vertices_);
-  if (kind_->planesFollowBuffer) CalculateCollisionPlanes();
+  look_->VertexBuffer = nullptr;
+  if (look_->kind->planesFollowBuffer) CalculateCollisionPlanes();
 }
-
-void BoxObject::CalculateCollisionPlanes() { Planes_ = box::Planes(position_, size_); }
 
 void BoxObject::DrawBox() {
   Device& device = *DirectX::D3DDevice;
+  if (!device.MaySee(position_, size_)) return;
   device.SetVertexFormat(VertexFormat::World);
-  box::PlaceInWorld(position_, size_, WorldMatrix_, ScaleMatrix_);
+  box::PlaceInWorld(position_, size_);
+  Look& look = *look_;
   // A fresh object has no geometry yet.
-  if (!VertexBuffer_) return;
-  device.SetStreamSource(VertexBuffer_, sizeof(Vertex));
-  for (uint32_t face = 0; face < Textures_.size(); ++face) {
-    device.SetTexture(Textures_[face]);
+  if (!box::IsVisible(look.shape)) return;
+  if (!look.VertexBuffer) look.VertexBuffer = Buffers().Of(look.shape);
+  device.SetStreamSource(look.VertexBuffer, sizeof(Vertex));
+  for (uint32_t face = 0; face < look.pictures.size(); ++face) {
+    device.SetTexture(TextureOf(look.pictures[face]));
     device.DrawPrimitive(Primitive::TriangleList, face * 6, 2);
   }
 }
@@ -100,10 +105,7 @@ void BoxObject::DrawBox() {
 int BoxObject::LoadTexture(const std::string& Name, const std::string& face,
                            const std::string& TextureDir) {
   const int index = box::FaceIndex(face);
-  if (index < 0) return index;
   // Loading comes first: a failure leaves the face as it was.
-  Textures_[static_cast<size_t>(index)] =
-      DirectX::D3DX->CreateTextureFromFileEx(TextureDir + Name, {});
-  FaceTextureNames_[static_cast<size_t>(index)] = Name;
+  if (index >= 0) Picture(static_cast<size_t>(index), LoadFacePicture(Name, TextureDir));
   return index;
 }

@@ -7,19 +7,24 @@ const BoxObject::Kind clsMovingPlatform::kKind = {
 
 void clsMovingPlatform::create(float CoordX, float CoordY, float CoordZ) {
   StartGeometry();
-  position_ = {CoordX, CoordY, CoordZ};
-  CalculateCollisionPlanes();
+  Move({CoordX, CoordY, CoordZ});
   Moving_ = true;
 }
 
-void clsMovingPlatform::Xpos(float NewVal) { position_.x = StartPos_.x = InitialPos_.x = NewVal; }
+void clsMovingPlatform::Set(float Vector3::*coordinate, float value) {
+  Vector3 place = Position();
+  place.*coordinate = StartPos_.*coordinate = InitialPos_.*coordinate = value;
+  Place(place);
+}
+
+void clsMovingPlatform::Xpos(float NewVal) { Set(&Vector3::x, NewVal); }
 
 void clsMovingPlatform::Ypos(float NewVal) {
-  if (NewVal > -1.0) position_.y = StartPos_.y = InitialPos_.y = NewVal;
+  if (NewVal > -1.0) Set(&Vector3::y, NewVal);
 }
 
 void clsMovingPlatform::Zpos(float NewVal) {
-  if (NewVal > -1.0) position_.z = StartPos_.z = InitialPos_.z = NewVal;
+  if (NewVal > -1.0) Set(&Vector3::z, NewVal);
 }
 
 void clsMovingPlatform::Texture(const std::string& Name, const std::string& face,
@@ -33,25 +38,26 @@ clsMovingPlatform::Step clsMovingPlatform::NextStep() const {
   const int heading = Heading();
   const double length = heading * (Mspeed_ / 100.0);
   const float limit = ToSingle(double{StartPos_.x} + heading * Mdist_);
-  const float next = ToSingle(position_.x + length);
+  const float next = ToSingle(Position().x + length);
   return {length, next, ToSingle(RoundTo3(limit)), heading < 0 ? next >= limit : next <= limit};
 }
 
 void clsMovingPlatform::move() {
   ChangedDir_ = false;
+  Vector3 place = Position();
   if (Moving_ && Heading() != 0) {
     const Step step = NextStep();
     if (step.inside) {
-      position_.x = ToSingle(RoundTo3(step.next));
+      place.x = ToSingle(RoundTo3(step.next));
     } else if (MloopBack()) {
       ChangedDir_ = true;
-      position_.x = StartPos_.x = step.limit;
+      place.x = StartPos_.x = step.limit;
       Mdir_ = Mdir_ == Left ? Right : Left;
     } else {
-      position_.x = StartPos_.x;
+      place.x = StartPos_.x;
     }
   }
-  CalculateCollisionPlanes();
+  Move(place);
 }
 
 Vector3 clsMovingPlatform::GetVelocity() const {
@@ -59,7 +65,7 @@ Vector3 clsMovingPlatform::GetVelocity() const {
   const Step step = NextStep();
   if (step.inside) return {ToSingle(step.length), 0, 0};
   // The rest of the way to the end; a jump back to the start carries nobody.
-  return MloopBack() ? Vector3{ToSingle(double{step.limit} - position_.x), 0, 0} : Vector3{};
+  return MloopBack() ? Vector3{ToSingle(double{step.limit} - Position().x), 0, 0} : Vector3{};
 }
 
 void clsMovingPlatform::StartAnimation() {
@@ -68,13 +74,14 @@ void clsMovingPlatform::StartAnimation() {
 }
 
 void clsMovingPlatform::StopAnimation() {
-  position_ = StartPos_ = InitialPos_;
+  StartPos_ = InitialPos_;
+  Place(StartPos_);
   Mdir_ = SavedDir_;
   RefreshVertexBuffer();
 }
 
 void clsMovingPlatform::ResetToOrigin() {
-  if (Mdir_ != 1) position_ = InitialPos_;
+  if (Mdir_ != 1) Place(InitialPos_);
 }
 
 void clsMovingPlatform::RestartLeg() {

@@ -15,12 +15,12 @@ class clsMovingPlatform : public BoxObject {
 
   // Current position in world units. Each setter also sets the start of the present leg and the
   // place to return to.
-  float Xpos() const { return position_.x; }
+  float Xpos() const { return Position().x; }
   void Xpos(float NewVal);
-  float Ypos() const { return position_.y; }
+  float Ypos() const { return Position().y; }
   /// Only above -1 is stored.
   void Ypos(float NewVal);
-  float Zpos() const { return position_.z; }
+  float Zpos() const { return Position().z; }
   /// Only above -1 is stored.
   void Zpos(float NewVal);
 
@@ -66,6 +66,8 @@ class clsMovingPlatform : public BoxObject {
  private:
   static const Kind kKind;
 
+  /// Sets one coordinate of the place, of the leg's start and of the initial place.
+  void Set(float Vector3::*coordinate, float value);
   /// −1 to the left, +1 to the right, 0 for any other direction.
   int Heading() const;
   /// Where the next step leads, before it turns round or jumps back at the end of the travel.

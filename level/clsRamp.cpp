@@ -1,17 +1,29 @@
 #include "level/clsRamp.h"
 
-#include <stdexcept>
-
 #include "level/box.h"
+#include "level/shared_buffers.h"
 #include "platform/numbers.h"
 #include "render/device/DirectX.h"
 
+namespace {
+
+SharedBuffers<ramp::Shape>& Buffers() {
+  static SharedBuffers<ramp::Shape> buffers;
+  return buffers;
+}
+
+}  // namespace
+
 void clsRamp::create(float CoordX, float CoordY, float CoordZ) {
   size_ = {1, 1, 1};
-  Vertices_ = ramp::WedgeVertices(0, size_);
-  UpdateChanges();
+  MakeWedge(0);
   position_ = {CoordX, CoordY, CoordZ};
   CalculateCollisionPlanes();
+}
+
+void clsRamp::MakeWedge(uint8_t rotation) {
+  look_->shape = {size_, rotation, 1, 0};
+  UpdateChanges();
 }
 
 int32_t clsRamp::Xpos() const { return ToLong(position_.x); }
@@ -45,8 +57,7 @@ void clsRamp::Resize(float& size, int16_t value) {
 
 void clsRamp::rotate() {
   rotateVal_ = static_cast<uint8_t>((rotateVal_ + 1) % 4);
-  Vertices_ = ramp::WedgeVertices(rotateVal_, size_);
-  UpdateChanges();
+  MakeWedge(rotateVal_);
   CalculateCollisionPlanes();
 }
 
@@ -62,50 +73,48 @@ void clsRamp::Texture(const std::string& Name, const std::string& face,
                       const std::string& TextureDir) {
   const int index = box::FaceIndex(face);
   if (index != 0 && index != 1) return;
-  const auto slot = static_cast<size_t>(index);
-  Textures_[slot] = DirectX::D3DX->CreateTextureFromFile(TextureDir + Name);
-  FaceTextureNames_[slot] = Name;
+  Picture(static_cast<size_t>(index), LoadFacePicture(Name, TextureDir));
 }
 
 void clsRamp::SelectRamp() {
-  for (Vertex& vertex : Vertices_) vertex.colour = ramp::kSelectedColour;
+  look_->shape.selected = 1;
   UpdateChanges();
 }
 
 void clsRamp::UnSelectramp() {
-  for (size_t i = 0; i < Vertices_.size(); ++i) {
-    Vertices_[i].colour = i < ramp::kFirstSideVertex ? ramp::kSlopeColour : ramp::kSideColour;
-  }
+  look_->shape.selected = 0;
   UpdateChanges();
 }
 
-void clsRamp::UpdateChanges() { VertexBuffer_ = DirectX::D3DDevice->CreateVertexBuffer(Vertices_); }
-
 void clsRamp::draw() {
   Device& device = *DirectX::D3DDevice;
+  if (!device.MaySee(position_, size_)) return;
   device.SetVertexFormat(VertexFormat::World);
-  box::PlaceInWorld(position_, size_, WorldMatrix_, ScaleMatrix_);
-  if (!VertexBuffer_) return;
-  device.SetStreamSource(VertexBuffer_, sizeof(Vertex));
-  device.SetTexture(Textures_[0]);
+  box::PlaceInWorld(position_, size_);
+  Look& look = *look_;
+  if (look.shape.made == 0) return;
+  if (!look.VertexBuffer) look.VertexBuffer = Buffers().Of(look.shape);
+  device.SetStreamSource(look.VertexBuffer, sizeof(Vertex));
+  device.SetTexture(TextureOf(look.pictures[0]));
   device.DrawPrimitive(Primitive::TriangleList, 0, 2);
-  device.SetTexture(Textures_[1]);
+  device.SetTexture(TextureOf(look.pictures[1]));
   device.DrawPrimitive(Primitive::TriangleList, 6, 1);
   device.DrawPrimitive(Primitive::TriangleList, 9, 1);
   device.DrawPrimitive(Primitive::TriangleList, 12, 2);
 }
 
-void clsRamp::CalculateCollisionPlanes() { Planes_ = ramp::Planes(rotateVal_, position_, size_); }
+void clsRamp::CalculateCollisionPlanes() { look_->planes = PlanesPlace{rotateVal_, Drawn()}; }
 
-const CollisionPlane& clsRamp::GetCollisionPlane(int16_t planenumber) const {
-  if (planenumber < 1 || planenumber > ramp::kPlaneCount) {
-    throw std::out_of_range("Subscript out of range");
-  }
-  return Planes_[static_cast<size_t>(planenumber - 1)];
+CollisionPlane clsRamp::GetCollisionPlane(int16_t planenumber) const {
+  const std::optional<PlanesPlace>& at = look_->planes;
+  // A ramp that was never created has planes of nothing.
+  if (!at && planenumber >= 1 && planenumber <= ramp::kPlaneCount) return {};
+  const PlanesPlace place = at.value_or(PlanesPlace());
+  return ramp::Plane(place.rotation, place.extent.corner, place.extent.size, planenumber);
 }
 
 Vector3 clsRamp::GetPlaneNormal(int16_t planenumber) const {
-  const CollisionPlane& plane = GetCollisionPlane(planenumber);
+  const CollisionPlane plane = GetCollisionPlane(planenumber);
   return {plane.a, plane.b, plane.c};
 }
 

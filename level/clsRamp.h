@@ -2,13 +2,18 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
+#include "level/extent.h"
+#include "level/face_picture.h"
+#include "level/indirect.h"
 #include "level/ramp_tables.h"
-#include "platform/resources.h"
 
 class clsRamp {
  public:
+  static constexpr size_t kFaces = 2;  ///< that have a picture
+
   /// Sizes 1, 1, 1 at this smallest corner; the rotation stays as it was. Loads no textures.
   void create(float CoordX, float CoordY, float CoordZ);
 
@@ -40,18 +45,22 @@ class clsRamp {
   /// Face "A" is the slope, "B" sides and riser; any other letter does nothing. Throws
   /// PlatformError, leaving the face as it was, when the file cannot be loaded.
   void Texture(const std::string& Name, const std::string& face, const std::string& TextureDir);
-  const std::string& GetTextureA() const { return FaceTextureNames_[0]; }
-  const std::string& GetTextureB() const { return FaceTextureNames_[1]; }
+  const std::string& GetTextureA() const { return NameOf(look_->pictures[0]); }
+  const std::string& GetTextureB() const { return NameOf(look_->pictures[1]); }
+  /// A picture that is loaded already, or none; face 0 and 1 stand for "A" and "B".
+  const FacePicturePtr& Picture(size_t face) const { return look_->pictures[face]; }
+  void Picture(size_t face, const FacePicturePtr& picture) { look_->pictures[face] = picture; }
 
   void SelectRamp();
   void UnSelectramp();
-  /// Makes a new vertex buffer of the present vertices.
-  void UpdateChanges();
+  /// The next drawing is of the present vertices.
+  void UpdateChanges() { look_->VertexBuffer = nullptr; }
+  /// Draws the wedge unless the camera cannot see it.
   void draw();
 
   void CalculateCollisionPlanes();
   /// planenumber 1 to 6; throws std::out_of_range otherwise.
-  const CollisionPlane& GetCollisionPlane(int16_t planenumber) const;
+  CollisionPlane GetCollisionPlane(int16_t planenumber) const;
   Vector3 GetPlaneNormal(int16_t planenumber) const;
   void GetCollisionPlaneBounds(int16_t planenumber, Vector3& greatest, Vector3& smallest) const;
   ramp::Corners GetFaceCorners(int16_t planenumber) const;
@@ -60,18 +69,30 @@ class clsRamp {
     return ramp::Planes(rotateVal_, position_, size_);
   }
 
-  const ramp::Vertices& GeometryVertices() const { return Vertices_; }
+  Extent Drawn() const { return {position_, size_}; }
+
+  ramp::Vertices GeometryVertices() const { return ramp::MakeVertices(look_->shape); }
 
  private:
-  void Resize(float& size, int16_t value);
+  /// Where the planes were last put.
+  struct PlanesPlace {
+    uint8_t rotation;
+    Extent extent;
+  };
+  /// What only matters for a ramp that is met or seen.
+  struct Look {
+    ramp::Shape shape;
+    VertexBufferPtr VertexBuffer;  ///< of this shape, once it has been drawn
+    std::array<FacePicturePtr, kFaces> pictures;
+    std::optional<PlanesPlace> planes;
+  };
 
-  ramp::Vertices Vertices_{};
-  Matrix4 WorldMatrix_, ScaleMatrix_;
+  void Resize(float& size, int16_t value);
+  void MakeWedge(uint8_t rotation);
+
+  // What every frame reads of every ramp.
   Vector3 position_;
   Vector3 size_;
-  std::array<TexturePtr, 2> Textures_;
-  std::array<std::string, 2> FaceTextureNames_;
-  VertexBufferPtr VertexBuffer_;
   uint8_t rotateVal_ = 0;
-  std::array<CollisionPlane, 6> Planes_{};
+  Indirect<Look> look_;
 };

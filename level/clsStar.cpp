@@ -1,5 +1,7 @@
 #include "level/clsStar.h"
 
+#include <cmath>
+
 #include "level/box.h"
 #include "level/maths.h"
 #include "platform/numbers.h"
@@ -14,18 +16,29 @@ TexturePtr LoadSkin(const std::string& name) {
   return DirectX::D3DX->CreateTextureFromFileEx(paths::InInstallFolder("\\skins\\") + name, {});
 }
 
+/// The box around all that a model reaches when it is turned about the vertical axis.
+Extent Reach(const d3dx::MeshObject& mesh) {
+  const Vector3 &low = mesh.Smallest(), &high = mesh.Greatest();
+  const float radius = std::hypot(std::max(std::abs(low.x), std::abs(high.x)),
+                                  std::max(std::abs(low.z), std::abs(high.z)));
+  // A little more: the turned corners are rounded.
+  const float wide = 1.001F * radius;
+  return {{-wide, low.y, -wide}, {2 * wide, high.y - low.y, 2 * wide}};
+}
+
 }  // namespace
 
 void clsStar::load(const std::string& modelFile) {
   visible_ = true;
-  Mesh_ = DirectX::D3DX->LoadMeshFromX(modelFile);
-  MaterialCount_ = Mesh_->MaterialCount();
-  Materials_.clear();
-  SkinTextures_.clear();
-  for (const d3dx::MeshMaterial& loaded : Mesh_->Materials()) {
-    Materials_.push_back({loaded.material.diffuse, loaded.material.diffuse});
-    SkinTextures_.push_back(loaded.textureName.empty() ? nullptr : LoadSkin(loaded.textureName));
+  Look look;
+  look.Mesh = DirectX::D3DX->LoadMeshFromX(modelFile);
+  look.reach = Reach(*look.Mesh);
+  for (const d3dx::MeshMaterial& loaded : look.Mesh->Materials()) {
+    look.Materials.push_back({loaded.material.diffuse, loaded.material.diffuse});
+    look.SkinTextures.push_back(loaded.textureName.empty() ? nullptr
+                                                           : LoadSkin(loaded.textureName));
   }
+  look_ = std::make_shared<const Look>(std::move(look));
 }
 
 int32_t clsStar::Xpos() const { return ToLong(position_.x); }
@@ -47,29 +60,44 @@ void clsStar::unSelectStar() { Skin("StarSkin.bmp"); }
 
 void clsStar::Skin(const char* name) {
   TexturePtr skin = LoadSkin(name);
-  if (!SkinTextures_.empty()) SkinTextures_[0] = std::move(skin);
+  if (!look_ || look_->SkinTextures.empty()) return;
+  Look look = *look_;
+  look.SkinTextures[0] = std::move(skin);
+  look_ = std::make_shared<const Look>(std::move(look));
+}
+
+void clsStar::Spin() {
+  SpinAngle_ += 5;
+  // Starting again at 1 shifts each turn by one degree.
+  if (SpinAngle_ > 360) SpinAngle_ = 1;
 }
 
 void clsStar::draw() {
   if (!visible_) return;
-  SpinAngle_ += 5;
-  // Starting again at 1 shifts each turn by one degree.
-  if (SpinAngle_ > 360) SpinAngle_ = 1;
-  RotationMatrix_ = d3dx::RotationY(ToSingle(SpinAngle_ * kRadiansPerDegree));
-  maths::MakeTranslationMatrix(TranslationMatrix_, position_);
-  WorldMatrix_ = d3dx::Multiply(RotationMatrix_, TranslationMatrix_);
+  Spin();
+  if (!look_) return;
+  const Look& look = *look_;
   Device& device = *DirectX::D3DDevice;
-  device.SetTransform(Transform::World, WorldMatrix_);
-  for (int32_t i = 0; i < MaterialCount_; ++i) {
-    const auto slot = static_cast<size_t>(i);
-    device.SetMaterial(Materials_[slot]);
-    device.SetTexture(SkinTextures_[slot]);
-    Mesh_->DrawSubset(device, i);
+  const Vector3 corner{position_.x + look.reach.corner.x, position_.y + look.reach.corner.y,
+                       position_.z + look.reach.corner.z};
+  if (!device.MaySee(corner, look.reach.size)) return;
+  Matrix4 translation;
+  maths::MakeTranslationMatrix(translation, position_);
+  const Matrix4 rotation = d3dx::RotationY(ToSingle(SpinAngle_ * kRadiansPerDegree));
+  device.SetTransform(Transform::World, d3dx::Multiply(rotation, translation));
+  for (size_t i = 0; i < look.Materials.size(); ++i) {
+    device.SetMaterial(look.Materials[i]);
+    device.SetTexture(look.SkinTextures[i]);
+    look.Mesh->DrawSubset(device, static_cast<int32_t>(i));
   }
 }
 
 std::array<CollisionPlane, 5> clsStar::DrawnPlanes() const {
   return box::Planes(position_, {1, 1, 1});
+}
+
+Extent clsStar::Drawn() const {
+  return {{position_.x - 0.5F, position_.y, position_.z - 0.5F}, {1.5F, 1, 1.5F}};
 }
 
 CollisionPlane clsStar::GetCollisionPlanes(int16_t planenumber) const {

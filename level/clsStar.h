@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "level/collision_plane.h"
+#include "level/extent.h"
 #include "platform/d3dx.h"
 
 class clsStar {
@@ -45,18 +46,25 @@ class clsStar {
   /// Planes 1 to 4 (left, right, top, front) of the unit box at the position.
   CollisionPlane GetCollisionPlanes(int16_t planenumber) const;
   std::array<CollisionPlane, 5> DrawnPlanes() const;
+  /// The box around model, planes and the windows below.
+  Extent Drawn() const;
   /// The window of each plane inside which a click picks the star.
   Corners GetFaceCorners(int16_t planenumber) const;
 
  private:
-  void Skin(const char* name);
+  /// Model and skins; stars that look alike share them.
+  struct Look {
+    d3dx::MeshPtr Mesh;
+    std::vector<Material> Materials;
+    std::vector<TexturePtr> SkinTextures;
+    Extent reach;  ///< around the model however it is turned, from the star's place
+  };
 
-  d3dx::MeshPtr Mesh_;
-  std::vector<Material> Materials_;
-  std::vector<TexturePtr> SkinTextures_;
-  int32_t MaterialCount_ = 0;
-  Matrix4 WorldMatrix_, TranslationMatrix_, RotationMatrix_;
+  void Skin(const char* name);
+  void Spin();
+
+  Vector3 position_;
   int32_t SpinAngle_ = 0;
   bool visible_ = false;
-  Vector3 position_;
+  std::shared_ptr<const Look> look_;
 };

@@ -6,41 +6,40 @@
 #include "platform/numbers.h"
 #include "render/device/DirectX.h"
 
-namespace {
-
-constexpr std::array<const char*, 4> kFaceLetters = {"A", "B", "C", "D"};
-
-}  // namespace
-
 const BoxObject::Kind clsblock::kKind = {
     {box::kSideColour, box::kSideTopEdgeColour}, {box::kSideColour, box::kSideTopEdgeColour}, true};
 
 void clsblock::create(float CoordX, float CoordY, float CoordZ, float scaleX, float scaleY,
                       float scaleZ) {
   StartGeometry();
-  position_ = {CoordX, CoordY, CoordZ};
-  size_ = {scaleX, scaleY, ToSingle(scaleZ - 0.1)};
+  PlaceAndSize({CoordX, CoordY, CoordZ}, {scaleX, scaleY, ToSingle(scaleZ - 0.1)});
   CalculateCollisionPlanes();
 }
 
 void clsblock::Ypos(float NewVal) {
-  if (NewVal > -1.0) position_.y = NewVal;
+  if (NewVal > -1.0) Place({Position().x, NewVal, Position().z});
 }
 
-int32_t clsblock::Zpos() const { return ToLong(position_.z); }
+int32_t clsblock::Zpos() const { return ToLong(Position().z); }
 
 void clsblock::Zpos(int32_t NewVal) {
-  if (NewVal > -1) position_.z = ToSingle(NewVal);
+  if (NewVal > -1) Place({Position().x, Position().y, ToSingle(NewVal)});
+}
+
+void clsblock::Picture(size_t face, const FacePicturePtr& picture) {
+  const auto bit = static_cast<uint8_t>(1U << face);
+  const bool animated = AnimatedTextures::IsAnimatedTexture(NameOf(picture));
+  AnimatedFaces_ = static_cast<uint8_t>(animated ? AnimatedFaces_ | bit : AnimatedFaces_ & ~bit);
+  BoxObject::Picture(face, picture);
 }
 
 void clsblock::Texture(const std::string& Name, const std::string& face,
                        const std::string& TextureDir) {
-  const int index = LoadTexture(Name, face, TextureDir);
-  if (index < 0) return;
-  AnimatedFaces_[static_cast<size_t>(index)] = AnimatedTextures::IsAnimatedTexture(Name);
+  const int index = box::FaceIndex(face);
+  if (index >= 0) Picture(static_cast<size_t>(index), LoadFacePicture(Name, TextureDir));
 }
 
-void clsblock::SETTEXTURE() const { DirectX::D3DDevice->SetTexture(Textures_[0]); }
+void clsblock::SETTEXTURE() const { DirectX::D3DDevice->SetTexture(TextureOf(Picture(0))); }
 
 void clsblock::UpdateAnimatedTexture() {
   AnimatedTextures::Pictures pictures;
@@ -48,27 +47,22 @@ void clsblock::UpdateAnimatedTexture() {
 }
 
 void clsblock::UpdateAnimatedTexture(AnimatedTextures::Pictures& pictures) {
-  for (size_t face = 0; face < kFaceLetters.size(); ++face) {
-    if (!AnimatedFaces_[face]) continue;
-    const std::string next = AnimatedTextures::NextAnimationFrame(FaceTextureNames_[face]);
+  for (size_t face = 0; AnimatedFaces_ >> face != 0; ++face) {
+    if ((AnimatedFaces_ >> face & 1) == 0) continue;
+    const std::string next = AnimatedTextures::NextAnimationFrame(NameOf(Picture(face)));
     const auto& frames = AnimatedTextures::AnimationFrames;
     const auto index = static_cast<size_t>(std::ranges::find(frames, next) - frames.begin());
-    TexturePtr unknown;  // no frame any more: loading it fails
-    TexturePtr& picture = index < pictures.size() ? pictures[index] : unknown;
-    if (!picture) {
-      Texture(next, kFaceLetters[face], Track().TextureDir);
-      picture = Textures_[face];
-    } else {
-      Textures_[face] = picture;
-      FaceTextureNames_[face] = next;
-    }
+    FacePicturePtr unknown;  // no frame any more: loading it fails
+    FacePicturePtr& picture = index < pictures.size() ? pictures[index] : unknown;
+    if (!picture) picture = LoadFacePicture(next, Track().TextureDir);
+    Picture(face, picture);
   }
 }
 
 void clsblock::Bounce() {
   Bouncing_ = true;
   BouncePhase_ = -1.0F;
-  BounceBase_ = position_.y;
+  BounceBase_ = Position().y;
 }
 
 void clsblock::draw() {
@@ -79,19 +73,19 @@ void clsblock::draw() {
 
 void clsblock::AdvanceFall() {
   fallvel_ = ToSingle(double{fallvel_} + Track().Gravity);
-  position_.y = ToSingle(double{position_.y} - fallvel_);
-  CalculateCollisionPlanes();
+  const Vector3& at = Position();
+  Move({at.x, ToSingle(double{at.y} - fallvel_), at.z});
 }
 
 void clsblock::AdvanceBounce() {
-  const float before = position_.y;
-  position_.y = ToSingle(double{BounceBase_} + 1 - double{BouncePhase_} * BouncePhase_);
-  fallvel_ = ToSingle(double{before} - position_.y);
+  const Vector3 at = Position();
+  float y = ToSingle(double{BounceBase_} + 1 - double{BouncePhase_} * BouncePhase_);
+  fallvel_ = ToSingle(double{at.y} - y);
   if (BouncePhase_ >= 1.1F) {
     Bouncing_ = false;
-    position_.y = BounceBase_;
+    y = BounceBase_;
     fallvel_ = 0;
   }
-  CalculateCollisionPlanes();
+  Move({at.x, y, at.z});
   BouncePhase_ = ToSingle(BouncePhase_ + 0.1);
 }

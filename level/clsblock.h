@@ -25,9 +25,9 @@ class clsblock : public BoxObject {
 
   // Positions in world units. The planes follow a move at the next size, stretch or selection
   // change or frame of motion.
-  float Xpos() const { return position_.x; }
-  void Xpos(float NewVal) { position_.x = NewVal; }
-  float Ypos() const { return position_.y; }
+  float Xpos() const { return Position().x; }
+  void Xpos(float NewVal) { Place({NewVal, Position().y, Position().z}); }
+  float Ypos() const { return Position().y; }
   /// Only above -1 is stored.
   void Ypos(float NewVal);
   /// The whole number nearest to the stored depth.
@@ -38,6 +38,9 @@ class clsblock : public BoxObject {
   /// Downward displacement of the last frame of a fall or bounce.
   float fallvel() const { return fallvel_; }
 
+  /// As BoxObject's; a picture of the animated texture begins to move in play.
+  void Picture(size_t face, const FacePicturePtr& picture);
+  using BoxObject::Picture;
   /// Loads TextureDir & Name onto the face with this letter; any other letter does nothing. Throws
   /// PlatformError, leaving the face as it was, when the file cannot be loaded.
   void Texture(const std::string& Name, const std::string& face, const std::string& TextureDir);
@@ -61,7 +64,7 @@ class clsblock : public BoxObject {
   void AdvanceFall();
   void AdvanceBounce();
 
-  std::array<bool, 4> AnimatedFaces_{};
+  uint8_t AnimatedFaces_ = 0;  ///< a bit for each
   bool Falling_ = false;
   bool Bouncing_ = false;
   float BouncePhase_ = 0;

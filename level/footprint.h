@@ -5,14 +5,24 @@
 #include <span>
 #include <vector>
 
+#include "level/extent.h"
+
 /// Whether the point (x, z) lies strictly within an object's extent, widened by 1 on every side.
 /// Height does not count.
 bool WithinFootprint(double x, double z, double objectX, double objectZ, double sizeX,
                      double sizeZ);
 
-/// The same for a block, ramp or moving platform.
+/// False where z is too far away for a piece that is drawn there, whatever its place is rounded to.
+inline bool NearInDepth(const Extent& drawn, double z) {
+  constexpr double kMargin = 2.5;  // the reach of 1, and half a unit each for place and size
+  return z > drawn.corner.z - kMargin && z < double{drawn.corner.z} + drawn.size.z + kMargin;
+}
+
+/// As WithinFootprint for a block, ramp or moving platform.
 template <typename Object>
 bool InFootprint(const Object& object, double x, double z) {
+  // Most of a track is out of reach, and rounding its places would take most of the time.
+  if (!NearInDepth(object.Drawn(), z)) return false;
   return WithinFootprint(x, z, object.Xpos(), object.Zpos(), object.scaleX(), object.scaleZ());
 }
 

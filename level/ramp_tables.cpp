@@ -1,5 +1,7 @@
 #include "level/ramp_tables.h"
 
+#include <stdexcept>
+
 #include "level/maths.h"
 #include "platform/numbers.h"
 #include "render/device/DirectX.h"
@@ -171,29 +173,54 @@ constexpr std::array<std::array<Step, 3>, 4> kSlopes = {{
 
 }  // namespace
 
-Vertices WedgeVertices(uint8_t rotation, const Vector3& size) {
-  Vertices vertices;
+Vertices MakeVertices(const Shape& shape) {
+  Vertices vertices{};
   for (size_t i = 0; i < vertices.size(); ++i) {
-    const WedgeVertex& v = kWedges.at(rotation)[i];
-    vertices[i] =
-        DirectX::MakeVertex(v.x, v.y, v.z, i < kFirstSideVertex ? kSlopeColour : kSideColour, 0,
-                            TextureCoordinate(v.u, size), TextureCoordinate(v.v, size));
+    const uint32_t colour = i < kFirstSideVertex ? kSlopeColour : kSideColour;
+    if (shape.made != 0) {
+      const WedgeVertex& v = kWedges.at(shape.rotation)[i];
+      vertices[i] =
+          DirectX::MakeVertex(v.x, v.y, v.z, colour, 0, TextureCoordinate(v.u, shape.size),
+                              TextureCoordinate(v.v, shape.size));
+    }
+    if (shape.selected != 0) vertices[i].colour = kSelectedColour;
   }
   return vertices;
 }
 
+CollisionPlane Plane(uint8_t rotation, const Vector3& position, const Vector3& size,
+                     int planenumber) {
+  const Vector3 high = CornerAt(position, size, {1, 1, 1});
+  switch (planenumber) {
+    case 1:
+      return rotation != 1 ? CollisionPlane{-1, 0, 0, position.x} : CollisionPlane{};
+    case 2:
+      return rotation != 3 ? CollisionPlane{1, 0, 0, -high.x} : CollisionPlane{};
+    case 3: {
+      const auto& slope = kSlopes.at(rotation);
+      CollisionPlane plane;
+      maths::PlaneFromPoints(plane, CornerAt(position, size, slope[0]),
+                             CornerAt(position, size, slope[1]),
+                             CornerAt(position, size, slope[2]));
+      return plane;
+    }
+    case 4:
+      return rotation != 0 ? CollisionPlane{0, 0, -1, position.z} : CollisionPlane{};
+    case 5:
+      return {0, -1, 0, position.y};
+    case 6:
+      return {0, 1, 0, -high.y};
+    default:
+      throw std::out_of_range("Subscript out of range");
+  }
+}
+
 std::array<CollisionPlane, 6> Planes(uint8_t rotation, const Vector3& position,
                                      const Vector3& size) {
-  const Vector3 high = CornerAt(position, size, {1, 1, 1});
   std::array<CollisionPlane, 6> planes;
-  if (rotation != 1) planes[0] = {-1, 0, 0, position.x};
-  if (rotation != 3) planes[1] = {1, 0, 0, -high.x};
-  const auto& slope = kSlopes.at(rotation);
-  maths::PlaneFromPoints(planes[2], CornerAt(position, size, slope[0]),
-                         CornerAt(position, size, slope[1]), CornerAt(position, size, slope[2]));
-  if (rotation != 0) planes[3] = {0, 0, -1, position.z};
-  planes[4] = {0, -1, 0, position.y};
-  planes[5] = {0, 1, 0, -high.y};
+  for (int number = 1; number <= kPlaneCount; ++number) {
+    planes[static_cast<size_t>(number - 1)] = Plane(rotation, position, size, number);
+  }
   return planes;
 }
 

@@ -19,11 +19,22 @@ inline constexpr uint32_t kSideColour = 0x9A9A9A;
 inline constexpr uint32_t kSelectedColour = 0x888888;
 inline constexpr size_t kFirstSideVertex = 6;  ///< vertices before it are the slope
 
-/// The unit wedge; textures repeat once per world unit, so the coordinates carry the sizes.
-Vertices WedgeVertices(uint8_t rotation, const Vector3& size);
+/// What tells the vertices of one wedge from those of another.
+struct Shape {
+  Vector3 size;
+  uint32_t rotation = 0;
+  uint32_t made = 0;  ///< 0: all corners lie at the origin
+  uint32_t selected = 0;
+};
 
-/// Planes 1 to 6 (index 0 is plane 1): sides at low and high x, slope, side at low z, bottom, and
-/// the horizontal plane of the high edge. A side that the rotation lacks is all zero.
+/// The unit wedge; textures repeat once per world unit, so the coordinates carry the sizes.
+Vertices MakeVertices(const Shape& shape);
+
+/// Plane 1 to 6: sides at low and high x, slope, side at low z, bottom, and the horizontal plane of
+/// the high edge. A side that the rotation lacks is all zero.
+CollisionPlane Plane(uint8_t rotation, const Vector3& position, const Vector3& size,
+                     int planenumber);
+/// All of them; index 0 is plane 1.
 std::array<CollisionPlane, 6> Planes(uint8_t rotation, const Vector3& position,
                                      const Vector3& size);
 

@@ -63,4 +63,6 @@ class Executor {
  public:
   virtual ~Executor() = default;
   virtual void Execute(const CommandList& frame) = 0;
+  /// Whether frames shall hold what the camera cannot see, too.
+  virtual bool NeedsUnseen() const { return true; }
 };

@@ -98,6 +98,12 @@ MeshObject::MeshObject(const std::vector<Subset>& subsets) {
   for (const Subset& subset : subsets) {
     materials_.push_back(subset.material);
     buffers_.push_back(std::make_shared<VertexBufferObject>(std::span(subset.triangles)));
+    for (const Vertex& v : subset.triangles) {
+      smallest_ = {std::min(smallest_.x, v.x), std::min(smallest_.y, v.y),
+                   std::min(smallest_.z, v.z)};
+      greatest_ = {std::max(greatest_.x, v.x), std::max(greatest_.y, v.y),
+                   std::max(greatest_.z, v.z)};
+    }
   }
 }
 

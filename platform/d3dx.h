@@ -40,11 +40,15 @@ class MeshObject {
   int32_t MaterialCount() const { return static_cast<int32_t>(materials_.size()); }
   const std::vector<MeshMaterial>& Materials() const { return materials_; }
   size_t TriangleCount(int32_t subset) const;
+  /// Corners of the box around all vertices and the origin.
+  const Vector3& Smallest() const { return smallest_; }
+  const Vector3& Greatest() const { return greatest_; }
   void DrawSubset(Device& device, int32_t subset) const;
 
  private:
   std::vector<MeshMaterial> materials_;
   std::vector<VertexBufferPtr> buffers_;
+  Vector3 smallest_, greatest_;
 };
 using MeshPtr = std::shared_ptr<const MeshObject>;
 

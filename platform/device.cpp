@@ -25,7 +25,8 @@ Device::Device(std::unique_ptr<Executor> executor)
     : executor_(std::move(executor)),
       world_(d3dx::Identity()),
       view_(d3dx::Identity()),
-      projection_(d3dx::Identity()) {
+      projection_(d3dx::Identity()),
+      needsUnseen_(executor_ && executor_->NeedsUnseen()) {
   StartFrame();
 }
 
@@ -130,7 +131,12 @@ void Device::SetTransform(Transform transform, const Matrix4& matrix) {
       projection_ = matrix;
       break;
   }
-  cameraChanged_ = true;
+  cameraChanged_ = frustumOld_ = true;
+}
+
+void Device::RenewFrustum() {
+  frustum_ = Frustum(Camera{view_, projection_});
+  frustumOld_ = false;
 }
 
 const Matrix4& Device::GetTransform(Transform transform) const {

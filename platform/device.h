@@ -6,6 +6,7 @@
 
 #include "platform/commands.h"
 #include "platform/error.h"
+#include "platform/frustum.h"
 
 enum class Transform : uint8_t { World, View, Projection };
 enum class RenderState : uint8_t {
@@ -44,6 +45,14 @@ class Device {
   void SetTextureStageState(StageState state, Filter filter);
   void SetTransform(Transform transform, const Matrix4& matrix);
   const Matrix4& GetTransform(Transform transform) const;
+  /// False when nothing of the box from `corner` by `size`, in world space, can reach a pixel under
+  /// the present view and projection: then it need not be drawn. Always true where the executor
+  /// wants everything.
+  bool MaySee(const Vector3& corner, const Vector3& size) {
+    if (needsUnseen_) return true;
+    if (frustumOld_) RenewFrustum();
+    return frustum_.MaySee(corner, size);
+  }
   void SetVertexFormat(VertexFormat format) { format_ = format; }
   void SetTexture(const TexturePtr& texture);
   void SetMaterial(const Material& material) { material_ = material; }
@@ -62,6 +71,7 @@ class Device {
 
  private:
   void StartFrame();
+  void RenewFrustum();
   void Record(Primitive primitive, const VertexBufferObject& buffer, uint32_t first,
               uint32_t count);
   template <typename T>
@@ -72,11 +82,14 @@ class Device {
   DeviceStates states_;
   Material material_;
   Matrix4 world_, view_, projection_;
+  Frustum frustum_;
   VertexFormat format_ = VertexFormat::World;
   // Kept alive by the frame's resources.
   const TextureObject* texture_ = nullptr;
   const VertexBufferObject* stream_ = nullptr;
   uint64_t frameNumber_ = 0;
   bool worldChanged_ = true, cameraChanged_ = true, statesChanged_ = true;
+  bool frustumOld_ = true;
   bool inScene_ = false;
+  bool needsUnseen_;
 };

@@ -1,5 +1,6 @@
 #include "play/collision_response.h"
 
+#include "level/footprint.h"
 #include "level/globals.h"
 #include "platform/numbers.h"
 #include "play/clsPlayer.h"
@@ -154,7 +155,7 @@ Answer Respond(const CollisionCandidate& candidate, const Vector3& contact) {
 
 void CollectStars() {
   for (clsStar& star : Live(Document.Stars, Document.StarCount)) {
-    if (!star.visible()) continue;
+    if (!star.visible() || !NearInDepth(star.Drawn(), Player.Posz())) continue;
     const double x = star.Xpos(), y = star.Ypos(), z = star.Zpos();
     if (!Between(x - kStarReach, Player.Posx(), x + kStarReach) ||
         !Between(y - kStarReach, Player.PosY(), y + kStarReach) ||

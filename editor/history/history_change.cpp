@@ -9,8 +9,8 @@
 namespace history {
 namespace {
 
-/// A piece's own buffers and texts, besides the piece itself.
-constexpr size_t kBesidePiece = 1200;
+/// What a piece owns besides itself; pictures and geometry are shared.
+constexpr size_t kBesidePiece = 300;
 
 auto BoxContent(const BoxObject& b) {
   return std::tuple(b.scaleX(), b.scaleY(), b.scaleZ(), b.GetTextureA(), b.GetTextureB(),

@@ -3,8 +3,9 @@
 namespace gl {
 namespace {
 
-// Small enough for a cache to hold between placing the vertices and drawing them.
-constexpr size_t kPendingVertices = 1U << 14;
+// Whole triangles. Small: a software renderer goes back to the start of a piece for each triangle
+// that it has to clip.
+constexpr size_t kPendingVertices = 510;
 
 // How far ahead of its test a buffer's bounding box is fetched.
 constexpr size_t kCommandsAhead = 24;
@@ -18,21 +19,21 @@ BatchedExecutor::BatchedExecutor(const TargetSettings& settings)
 
 void BatchedExecutor::Execute(const CommandList& frame) {
   if (memory_.Holds(frame)) return;
-  pictureRead_ = false;
+  picture_ = nullptr;
   try {
     DrawFrame(frame);
   } catch (...) {
     memory_.Forget();
+    opening_.Forget();
     pendingCount_ = 0;
     throw;
   }
   memory_.Remember(frame);
 }
 
-Image BatchedExecutor::ReadPicture() {
-  if (!pictureRead_) picture_ = pipeline_.ReadPicture();
-  pictureRead_ = true;
-  return picture_;
+const Image& BatchedExecutor::ReadPicture() {
+  if (picture_ == nullptr) picture_ = &pipeline_.ReadPicture();
+  return *picture_;
 }
 
 void BatchedExecutor::DrawFrame(const CommandList& frame) {
@@ -44,10 +45,29 @@ void BatchedExecutor::DrawFrame(const CommandList& frame) {
   seen_ = {};
   batch_ = {};
   if (!frame.cameras.empty()) UseCamera(frame, 0);
-  const size_t count = frame.commands.size();
-  for (size_t i = 0; i < count; ++i) {
+  DrawCommands(frame, Open(frame), frame.commands.size());
+  Flush();
+}
+
+size_t BatchedExecutor::Open(const CommandList& frame) {
+  const size_t length = FrameOpening::LengthIn(frame);
+  const bool repeats = opening_.Repeats(frame, length);
+  if (repeats && openingKept_) {
+    pipeline_.Reopen(frame.commands[0]);
+    return length;
+  }
+  DrawCommands(frame, 0, length);
+  Flush();
+  // What comes a second time is likely to come again.
+  if (repeats) pipeline_.KeepOpening();
+  openingKept_ = repeats;
+  return length;
+}
+
+void BatchedExecutor::DrawCommands(const CommandList& frame, size_t first, size_t end) {
+  for (size_t i = first; i < end; ++i) {
     const Command& command = frame.commands[i];
-    __builtin_prefetch(frame.commands[std::min(i + kCommandsAhead, count - 1)].buffer);
+    __builtin_prefetch(frame.commands[std::min(i + kCommandsAhead, end - 1)].buffer);
     if (command.kind == Command::Kind::Clear) {
       Flush();
       pipeline_.Clear(command);
@@ -59,12 +79,11 @@ void BatchedExecutor::DrawFrame(const CommandList& frame) {
     }
     if (Visible(frame, command)) Collect(frame, command);
   }
-  Flush();
 }
 
 void BatchedExecutor::UseCamera(const CommandList& frame, uint32_t camera) {
   camera_ = camera;
-  frustum_ = Frustum(WorldToClip(frame.cameras[camera]));
+  frustum_ = Frustum(frame.cameras[camera]);
   seen_ = {};
 }
 

@@ -1,8 +1,9 @@
 // Draws a frame in as few OpenGL draws as its order allows.
 #pragma once
 
+#include "platform/frustum.h"
 #include "platform/gl/frame_memory.h"
-#include "platform/gl/frustum.h"
+#include "platform/gl/frame_opening.h"
 #include "platform/gl/pipeline.h"
 #include "platform/gl/texture_arrays.h"
 #include "platform/gl/vertex_stream.h"
@@ -18,7 +19,8 @@ class BatchedExecutor : public PictureExecutor {
   explicit BatchedExecutor(const TargetSettings& settings);
 
   void Execute(const CommandList& frame) override;
-  Image ReadPicture() override;
+  bool NeedsUnseen() const override { return false; }
+  const Image& ReadPicture() override;
 
  private:
   /// What all draws of a batch have in common.
@@ -34,6 +36,9 @@ class BatchedExecutor : public PictureExecutor {
   };
 
   void DrawFrame(const CommandList& frame);
+  /// Draws how the frame opens; returns the number of the command after that.
+  size_t Open(const CommandList& frame);
+  void DrawCommands(const CommandList& frame, size_t first, size_t end);
   void UseCamera(const CommandList& frame, uint32_t camera);
   bool Visible(const CommandList& frame, const Command& draw);
   void Collect(const CommandList& frame, const Command& draw);
@@ -44,6 +49,8 @@ class BatchedExecutor : public PictureExecutor {
   VertexStream stream_;
   TextureArrays textures_;
   FrameMemory memory_;
+  FrameOpening opening_;
+  bool openingKept_ = false;
   Frustum frustum_;
   uint32_t camera_ = 0;
   Seen seen_;
@@ -53,8 +60,7 @@ class BatchedExecutor : public PictureExecutor {
   std::unique_ptr<StreamVertex[]> pending_;
   size_t pendingCount_ = 0, pendingCapacity_;
   std::vector<StreamVertex> scratch_;
-  Image picture_;
-  bool pictureRead_ = false;
+  const Image* picture_ = nullptr;  ///< once this frame has been read
 };
 
 }  // namespace gl

@@ -20,7 +20,7 @@ std::unique_ptr<PictureExecutor> CreateExecutor(Scheme scheme, const TargetSetti
 
 bool SupportsSamples(int samples) {
   GLint most = 0;
-  glGetIntegerv(GL_MAX_SAMPLES, &most);
+  glGetIntegerv(GL_MAX_COLOR_TEXTURE_SAMPLES, &most);
   return samples == 1 || (samples > 1 && samples <= most);
 }
 

@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "platform/commands.h"
+#include "platform/frustum.h"
 
 namespace gl {
 
@@ -15,19 +15,6 @@ inline UniformMatrix AsUniform(const Matrix4& matrix) {
   UniformMatrix uniform;
   for (size_t i = 0; i < 16; ++i) uniform[i] = matrix.m[i / 4][i % 4];
   return uniform;
-}
-
-/// World to clip space with depth 0..1. Summed in double: two roundings would show in the picture.
-inline UniformMatrix WorldToClip(const Camera& camera) {
-  UniformMatrix product;
-  for (size_t i = 0; i < 16; ++i) {
-    double sum = 0;
-    for (size_t k = 0; k < 4; ++k) {
-      sum += double{camera.view.m[i / 4][k]} * camera.projection.m[k][i % 4];
-    }
-    product[i] = static_cast<float>(sum);
-  }
-  return product;
 }
 
 /// Pixels of a viewport of this size, y downwards, to clip space; depth stays.

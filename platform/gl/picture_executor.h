@@ -12,8 +12,8 @@ namespace gl {
 /// needs the OpenGL context of its creation to be current.
 class PictureExecutor : public Executor {
  public:
-  /// The last presented frame, top row first, opaque.
-  virtual Image ReadPicture() = 0;
+  /// The last presented frame, top row first, opaque. It stays until the next one is read.
+  virtual const Image& ReadPicture() = 0;
 };
 
 /// Batched: what users get. Plain: one draw call per recorded draw, the oracle for the other.

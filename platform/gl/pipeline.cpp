@@ -78,6 +78,14 @@ void Pipeline::Clear(const Command& clear) {
   glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }
 
+void Pipeline::Reopen(const Command& clear) {
+  target_.Restore();
+  glDepthMask(GL_TRUE);
+  modeSet_ = false;
+  glClearDepth(double{clear.depth});
+  glClear(GL_DEPTH_BUFFER_BIT);
+}
+
 void Pipeline::Prepare(const DrawMode& mode) {
   if (modeSet_ && mode == mode_) return;
   if (!modeSet_ || mode.states != mode_.states) SetStates(frame_->states[mode.states]);
@@ -102,7 +110,7 @@ void Pipeline::SetProgram(const DrawMode& mode) const {
   const Program& program = mode.shape == Shape::Points ? points_ : triangles_;
   program.Use();
   program.ToClip(mode.screen ? ScreenToClip(settings_.width, settings_.height)
-                             : WorldToClip(camera));
+                             : AsUniform(WorldToClip(camera)));
   if (mode.shape != Shape::Points) return;
   program.ToEye(AsUniform(camera.view));
   program.Points(SizingOf(states, mode.screen), states.pointSprites);

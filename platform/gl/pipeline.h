@@ -27,9 +27,12 @@ class Pipeline {
   void BeginFrame(const CommandList& frame);
   /// Colour and depth, whatever the states say.
   void Clear(const Command& clear);
+  /// Keeps the colours drawn so far; Reopen brings them back over a clear of the depth.
+  void KeepOpening() { target_.Keep(); }
+  void Reopen(const Command& clear);
   /// Sets everything that the next draws in this mode need.
   void Prepare(const DrawMode& mode);
-  Image ReadPicture() const { return target_.Read(); }
+  const Image& ReadPicture() { return target_.Read(); }
 
  private:
   void SetStates(const DeviceStates& states) const;

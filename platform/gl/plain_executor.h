@@ -15,7 +15,7 @@ class PlainExecutor : public PictureExecutor {
   explicit PlainExecutor(const TargetSettings& settings) : pipeline_(settings) {}
 
   void Execute(const CommandList& frame) override;
-  Image ReadPicture() override { return pipeline_.ReadPicture(); }
+  const Image& ReadPicture() override { return pipeline_.ReadPicture(); }
 
  private:
   struct StoredTexture {

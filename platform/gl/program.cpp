@@ -1,7 +1,5 @@
 #include "platform/gl/program.h"
 
-#include "platform/error.h"
-
 namespace gl {
 namespace {
 
@@ -53,62 +51,20 @@ void main() {
 }
 )";
 
-template <typename GetLog>
-std::string LogOf(GetLog getLog, GLuint name) {
-  std::array<char, 1024> text{};
-  getLog(name, static_cast<GLsizei>(text.size()), nullptr, text.data());
-  return text.data();
-}
-
-GLuint Compile(GLenum stage, Shape shape, const char* text) {
-  const std::array<const char*, 3> parts = {"#version 330 core\n",
-                                            shape == Shape::Points ? "#define POINTS\n" : "", text};
-  const GLuint shader = glCreateShader(stage);
-  glShaderSource(shader, static_cast<GLsizei>(parts.size()), parts.data(), nullptr);
-  glCompileShader(shader);
-  GLint fine = GL_FALSE;
-  glGetShaderiv(shader, GL_COMPILE_STATUS, &fine);
-  if (fine == GL_TRUE) return shader;
-  const std::string log = LogOf(glGetShaderInfoLog, shader);
-  glDeleteShader(shader);
-  throw PlatformError("shader: " + log);
-}
-
-GLuint Link(Shape shape) {
-  const GLuint program = glCreateProgram();
-  const GLuint vertex = Compile(GL_VERTEX_SHADER, shape, kVertexText);
-  const GLuint fragment = Compile(GL_FRAGMENT_SHADER, shape, kFragmentText);
-  for (const GLuint shader : {vertex, fragment}) {
-    glAttachShader(program, shader);
-    glDeleteShader(shader);
-  }
-  glLinkProgram(program);
-  GLint fine = GL_FALSE;
-  glGetProgramiv(program, GL_LINK_STATUS, &fine);
-  if (fine == GL_TRUE) return program;
-  const std::string log = LogOf(glGetProgramInfoLog, program);
-  glDeleteProgram(program);
-  throw PlatformError("shader program: " + log);
-}
-
 }  // namespace
 
 Program::Program(Shape shape)
-    : name_(Link(shape)),
-      toClip_(glGetUniformLocation(name_, "toClip")),
-      toEye_(glGetUniformLocation(name_, "toEye")),
-      sizing_(glGetUniformLocation(name_, "sizing")),
-      sprites_(glGetUniformLocation(name_, "sprites")) {
+    : program_(shape == Shape::Points ? "#define POINTS\n" : "", kVertexText, kFragmentText),
+      toClip_(program_.Uniform("toClip")),
+      toEye_(program_.Uniform("toEye")),
+      sizing_(program_.Uniform("sizing")),
+      sprites_(program_.Uniform("sprites")) {
   std::array<GLfloat, 2> range{};
   glGetFloatv(GL_POINT_SIZE_RANGE, range.data());
-  glUseProgram(name_);
-  glUniform1i(glGetUniformLocation(name_, "picture"), 0);
-  glUniform2f(glGetUniformLocation(name_, "sizeRange"), range[0], range[1]);
+  program_.Use();
+  glUniform1i(program_.Uniform("picture"), 0);
+  glUniform2f(program_.Uniform("sizeRange"), range[0], range[1]);
 }
-
-Program::~Program() { glDeleteProgram(name_); }
-
-void Program::Use() const { glUseProgram(name_); }
 
 void Program::ToClip(const UniformMatrix& matrix) const {
   glUniformMatrix4fv(toClip_, 1, GL_FALSE, matrix.data());

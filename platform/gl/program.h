@@ -1,8 +1,8 @@
 // The shader program: one text, for triangles and for points.
 #pragma once
 
+#include "platform/gl/linked_program.h"
 #include "platform/gl/matrices.h"
-#include "platform/gl/objects.h"
 
 namespace gl {
 
@@ -16,13 +16,10 @@ struct PointSizing {
 
 class Program {
  public:
-  /// Throws PlatformError with the compiler's text.
+  /// Throws PlatformError.
   explicit Program(Shape shape);
-  ~Program();
-  Program(const Program&) = delete;
-  Program& operator=(const Program&) = delete;
 
-  void Use() const;
+  void Use() const { program_.Use(); }
   /// The setters need the program to be in use.
   void ToClip(const UniformMatrix& matrix) const;
   /// Points only: world to eye.
@@ -31,7 +28,7 @@ class Program {
   void Points(const PointSizing& sizing, bool sprites) const;
 
  private:
-  GLuint name_;
+  LinkedProgram program_;
   GLint toClip_, toEye_, sizing_, sprites_;
 };
 

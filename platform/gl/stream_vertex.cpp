@@ -1,6 +1,6 @@
 #include "platform/gl/stream_vertex.h"
 
-#include "platform/gl/lanes.h"
+#include "platform/lanes.h"
 
 namespace gl {
 namespace {
@@ -13,9 +13,9 @@ std::span<const T> VerticesOf(const Command& draw) {
 template <typename T>
 void PlaceInWorld(std::span<const T> vertices, const Matrix4& world, int32_t layer,
                   StreamVertex* out) {
-  const Rows rows(world);
+  const lanes::Rows rows(world);
   for (const T& v : vertices) {
-    const Float4 place = rows.Place(v.x, v.y, v.z);
+    const lanes::Float4 place = rows.Place(v.x, v.y, v.z);
     *out++ = {place[0], place[1], place[2], v.colour, v.tu, v.tv, layer};
   }
 }

@@ -13,7 +13,7 @@ int DevicePixels(int pixels, double scale) { return static_cast<int>(std::lround
 void CheckSize(int width, int height, int samples) {
   GLint greatest = 0, mostSamples = 0;
   glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE, &greatest);
-  glGetIntegerv(GL_MAX_SAMPLES, &mostSamples);
+  glGetIntegerv(GL_MAX_COLOR_TEXTURE_SAMPLES, &mostSamples);
   if (width < 1 || height < 1 || width > greatest || height > greatest || samples < 1 ||
       (samples > 1 && samples > mostSamples)) {
     throw PlatformError("OpenGL refuses a picture of " + std::to_string(width) + " x " +
@@ -33,12 +33,12 @@ void CheckComplete() {
 
 Target::Target(const TargetSettings& settings)
     : width_(DevicePixels(settings.width, settings.scale)),
-      height_(DevicePixels(settings.height, settings.scale)) {
+      height_(DevicePixels(settings.height, settings.scale)),
+      samples_(settings.samples),
+      resolver_(settings.samples) {
   CheckSize(width_, height_, settings.samples);
-  // Zero asks for storage without multisampling.
-  const int samples = settings.samples > 1 ? settings.samples : 0;
-  Attach(drawn_, GL_COLOR_ATTACHMENT0, colour_, GL_RGBA8, samples);
-  Attach(drawn_, GL_DEPTH_ATTACHMENT, depth_, GL_DEPTH_COMPONENT16, samples);
+  AttachColours(drawn_, colour_, samples_);
+  AttachDepth();
   CheckComplete();
   // What was never drawn is black rather than whatever the memory held.
   glDisable(GL_SCISSOR_TEST);
@@ -47,16 +47,30 @@ Target::Target(const TargetSettings& settings)
   glClearColor(0, 0, 0, 1);
   glClearDepth(1);
   glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-  Attach(resolved_, GL_COLOR_ATTACHMENT0, resolvedColour_, GL_RGBA8, 0);
+  AttachColours(resolved_, resolvedColour_, 1);
   CheckComplete();
 }
 
-void Target::Attach(const FramebufferName& framebuffer, GLenum attachment,
-                    const RenderbufferName& storage, GLenum format, int samples) const {
-  glBindRenderbuffer(GL_RENDERBUFFER, storage.Name());
-  glRenderbufferStorageMultisample(GL_RENDERBUFFER, samples, format, width_, height_);
+void Target::AttachColours(const FramebufferName& framebuffer, const TextureName& storage,
+                           int samples) const {
+  const GLenum kind = samples > 1 ? GL_TEXTURE_2D_MULTISAMPLE : GL_TEXTURE_2D;
+  glBindTexture(kind, storage.Name());
+  if (samples > 1) {
+    glTexImage2DMultisample(kind, samples, GL_RGBA8, width_, height_, GL_TRUE);
+  } else {
+    glTexImage2D(kind, 0, GL_RGBA8, width_, height_, 0, GL_RGBA, GL_UNSIGNED_BYTE, nullptr);
+    glTexParameteri(kind, GL_TEXTURE_MAX_LEVEL, 0);
+  }
   glBindFramebuffer(GL_FRAMEBUFFER, framebuffer.Name());
-  glFramebufferRenderbuffer(GL_FRAMEBUFFER, attachment, GL_RENDERBUFFER, storage.Name());
+  glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, kind, storage.Name(), 0);
+}
+
+void Target::AttachDepth() {
+  // Zero asks for storage without multisampling.
+  glBindRenderbuffer(GL_RENDERBUFFER, depth_.Name());
+  glRenderbufferStorageMultisample(GL_RENDERBUFFER, samples_ > 1 ? samples_ : 0,
+                                   GL_DEPTH_COMPONENT16, width_, height_);
+  glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_ATTACHMENT, GL_RENDERBUFFER, depth_.Name());
 }
 
 void Target::Bind() const {
@@ -64,27 +78,38 @@ void Target::Bind() const {
   glViewport(0, 0, width_, height_);
 }
 
-Image Target::Read() const {
+void Target::Keep() {
+  if (!kept_) {
+    kept_.emplace();
+    AttachColours(kept_->framebuffer, kept_->colour, samples_);
+    CheckComplete();
+  }
+  CopyColours(drawn_, kept_->framebuffer);
+  Bind();
+}
+
+void Target::Restore() const {
+  CopyColours(kept_->framebuffer, drawn_);
+  Bind();
+}
+
+void Target::CopyColours(const FramebufferName& from, const FramebufferName& to) const {
   glDisable(GL_SCISSOR_TEST);
-  glBindFramebuffer(GL_READ_FRAMEBUFFER, drawn_.Name());
-  glBindFramebuffer(GL_DRAW_FRAMEBUFFER, resolved_.Name());
+  glBindFramebuffer(GL_READ_FRAMEBUFFER, from.Name());
+  glBindFramebuffer(GL_DRAW_FRAMEBUFFER, to.Name());
   glBlitFramebuffer(0, 0, width_, height_, 0, 0, width_, height_, GL_COLOR_BUFFER_BIT, GL_NEAREST);
-  glBindFramebuffer(GL_READ_FRAMEBUFFER, resolved_.Name());
+}
+
+const Image& Target::Read() {
+  glBindFramebuffer(GL_FRAMEBUFFER, resolved_.Name());
+  resolver_.Draw(colour_, width_, height_);
   glBindBuffer(GL_PIXEL_PACK_BUFFER, 0);
   glPixelStorei(GL_PACK_ALIGNMENT, 4);
   glPixelStorei(GL_PACK_ROW_LENGTH, 0);
-  const auto width = static_cast<size_t>(width_), height = static_cast<size_t>(height_);
-  const auto upsideDown = std::make_unique_for_overwrite<uint32_t[]>(width * height);
-  glReadPixels(0, 0, width_, height_, GL_BGRA, GL_UNSIGNED_INT_8_8_8_8_REV, upsideDown.get());
-
-  Image image(width_, height_);
-  for (size_t y = 0; y < height; ++y) {
-    const uint32_t* from = upsideDown.get() + (height - 1 - y) * width;
-    std::transform(from, from + width,
-                   image.pixels.begin() + static_cast<std::ptrdiff_t>(y * width),
-                   [](uint32_t pixel) { return pixel | 0xFF000000U; });
-  }
-  return image;
+  if (picture_.width != width_) picture_ = Image(width_, height_);
+  // As it is stored, so that OpenGL need not convert it.
+  glReadPixels(0, 0, width_, height_, GL_RGBA, GL_UNSIGNED_INT_8_8_8_8_REV, picture_.pixels.data());
+  return picture_;
 }
 
 }  // namespace gl

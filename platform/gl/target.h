@@ -1,8 +1,10 @@
 // The picture that an executor draws into.
 #pragma once
 
-#include "platform/gl/objects.h"
+#include <optional>
+
 #include "platform/gl/picture_executor.h"
+#include "platform/gl/resolver.h"
 
 namespace gl {
 
@@ -14,20 +16,34 @@ class Target {
 
   /// Draws go here from now on.
   void Bind() const;
-  /// Resolves and reads the picture: top row first, opaque.
-  Image Read() const;
+  /// Keeps the colours drawn so far, sample by sample, for Restore.
+  void Keep();
+  /// Brings them back. Depth stays as it is.
+  void Restore() const;
+  /// Resolves and reads the picture: top row first, opaque. It stays until the next call.
+  const Image& Read();
 
   /// Device pixels.
   int Width() const { return width_; }
   int Height() const { return height_; }
 
  private:
-  void Attach(const FramebufferName& framebuffer, GLenum attachment,
-              const RenderbufferName& storage, GLenum format, int samples) const;
+  struct Kept {
+    FramebufferName framebuffer;
+    TextureName colour;
+  };
+  void AttachColours(const FramebufferName& framebuffer, const TextureName& storage,
+                     int samples) const;
+  void AttachDepth();
+  void CopyColours(const FramebufferName& from, const FramebufferName& to) const;
 
-  int width_, height_;
+  int width_, height_, samples_;
   FramebufferName drawn_, resolved_;
-  RenderbufferName colour_, depth_, resolvedColour_;
+  TextureName colour_, resolvedColour_;
+  RenderbufferName depth_;
+  Resolver resolver_;
+  std::optional<Kept> kept_;
+  Image picture_;
 };
 
 }  // namespace gl

@@ -64,6 +64,8 @@ class ViewExecutor : public Executor {
     }
   }
 
+  bool NeedsUnseen() const override { return false; }
+
   void Execute(const CommandList& frame) override {
     if (view_.isNull()) return;
     context_->MakeCurrent();

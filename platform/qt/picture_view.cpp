@@ -26,9 +26,10 @@ int ButtonNumber(Qt::MouseButton button) {
 }
 
 // Shares the picture's bytes.
-QImage Wrap(const Image& picture) {
+QImage Wrap(const Image& picture, bool opaque) {
   return {reinterpret_cast<const uchar*>(picture.pixels.data()), picture.width, picture.height,
-          picture.width * static_cast<qsizetype>(sizeof(uint32_t)), QImage::Format_ARGB32};
+          picture.width * static_cast<qsizetype>(sizeof(uint32_t)),
+          opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32};
 }
 
 }  // namespace
@@ -42,8 +43,8 @@ PictureView::PictureView(QWidget* parent, const PictureArea& area) : QWidget(par
   }
 }
 
-void PictureView::Show(Image picture) {
-  picture_ = std::move(picture);
+void PictureView::Show(const Image& picture) {
+  picture_ = picture;
   setAttribute(Qt::WA_OpaquePaintEvent);
   update();
 }
@@ -62,7 +63,8 @@ void PictureView::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), QColor::fromRgb(colours::kEmptyPicture));
     return;
   }
-  QImage image = Wrap(picture_);
+  // Frames are opaque: painting them is copying them.
+  QImage image = Wrap(picture_, testAttribute(Qt::WA_OpaquePaintEvent));
   const double scale = devicePixelRatioF();
   if (std::abs(picture_.width - width() * scale) < 1.5 &&
       std::abs(picture_.height - height() * scale) < 1.5) {

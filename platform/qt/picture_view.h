@@ -14,7 +14,7 @@ class PictureView : public QWidget {
   PictureView(QWidget* parent, const PictureArea& area);
 
   /// Repaints with `picture` at the next chance.
-  void Show(Image picture);
+  void Show(const Image& picture);
   /// The view of a picture area; null when none was built.
   static PictureView* Of(const PictureArea& area);
 

@@ -21,7 +21,8 @@ std::vector<std::vector<Vertex>> Pictures() {
       std::vector<Vertex> vertices;
       if constexpr (!std::is_same_v<typename decltype(kind)::Piece, clsStar>) {
         selection::Unmark(piece);
-        vertices.assign(piece.GeometryVertices().begin(), piece.GeometryVertices().end());
+        const auto drawn = piece.GeometryVertices();
+        vertices.assign(drawn.begin(), drawn.end());
       }
       vertices.push_back({static_cast<float>(piece.Xpos()), static_cast<float>(piece.Ypos()),
                           static_cast<float>(piece.Zpos())});
@@ -241,14 +242,14 @@ TEST_F(HistoryTest, AFullTrackIsNoException) {
 }
 
 TEST_F(HistoryTest, OldStepsGoBeforeMemoryDoes) {
-  for (int i = 0; i < 20; ++i) {
-    Document.Blocks.resize(8000);
-    Document.BlockCount = 7999;
+  for (int i = 0; i < 40; ++i) {
+    Document.Blocks.resize(kGreatestIndex);
+    Document.BlockCount = kGreatestIndex - 1;
     c.mnu_New.UserClicks();
     ASSERT_LE(history::steps.Bytes(), history::History::kMostBytes);
   }
   EXPECT_GT(history::steps.StepCount(), 8U);
-  EXPECT_LT(history::steps.StepCount(), 20U);
+  EXPECT_LT(history::steps.StepCount(), 40U);
 }
 
 TEST_F(HistoryTest, PlayThatIsLeftWithoutARestoreIsAStep) {

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <random>
 
+#include "editor/pick_ray.h"
+#include "level/maths.h"
 #include "tests/editor/editor_fixture.h"
 
 namespace {
@@ -99,6 +102,40 @@ TEST_F(PickingTest, EveryFaceIsPickedWhereItIsDrawnAndPainted) {
     }
   }
   ExpectEveryFacePicked(c.mnu_Star, {}, {});
+}
+
+/// The box of a piece decides whether its faces are looked at: whatever a ray hits lies in it.
+TEST_F(PickingTest, NoHitIsLostToTheTestOfTheBox) {
+  std::mt19937 random(5);
+  const auto upTo = [&random](int most) {
+    return static_cast<int>(random() % static_cast<unsigned>(most + 1));
+  };
+  int hits = 0, left = 0;
+  for (int round = 0; round < 1000; ++round) {
+    Clear();
+    Insert(c.mnu_block, {upTo(8) - 4, upTo(3), upTo(9)}, {upTo(4), upTo(4), upTo(4)}, 0);
+    Insert(c.mnu_Ramp, {upTo(8) - 4, upTo(3), upTo(9)}, {upTo(4), upTo(4), upTo(4)}, upTo(3));
+    Insert(c.mnu_MovingPlatform, {upTo(8) - 4, upTo(3), upTo(9)}, {upTo(4), 1, upTo(4)}, 0);
+    Insert(c.mnu_Star, {upTo(8) - 4, upTo(3), upTo(9)}, {}, 0);
+    const PickRay ray = RayThrough(static_cast<float>(upTo(600)), static_cast<float>(upTo(456)));
+    VisitKinds([&](auto kind) {
+      const auto& piece = kind.Pieces().back();
+      const auto planes = piece.DrawnPlanes();
+      bool hit = false;
+      for (int16_t plane = 1; plane <= 5; ++plane) {
+        const auto q = piece.GetFaceCorners(plane);
+        Vector3 at;
+        hit = hit || (maths::IntersectRayPlane(planes[static_cast<size_t>(plane - 1)], ray.start,
+                                               ray.direction, at) &&
+                      maths::PointInQuadEitherWay(q[0], q[1], q[2], q[3], at));
+      }
+      hits += hit ? 1 : 0;
+      left += ray.MayMeet(piece.Drawn()) ? 1 : 0;
+      EXPECT_TRUE(!hit || ray.MayMeet(piece.Drawn())) << round << " kind " << kind.type;
+    });
+  }
+  EXPECT_GT(hits, 100);
+  EXPECT_LT(left, 3 * hits) << "most of what is not hit is left out";
 }
 
 TEST_F(PickingTest, NearestFaceWinsByWholeUnitsInsideTheReach) {

@@ -65,14 +65,15 @@ template <typename Piece>
 Solid Describe(const std::string& name, const Piece& piece, const Vector3& at, const Vector3& size,
                int rotation, const std::vector<Face>& faces) {
   Solid solid{name, rotation, at, size, faces, {}, {}, {}, {}};
-  solid.vertices.assign(piece.GeometryVertices().begin(), piece.GeometryVertices().end());
-  for (const CollisionPlane& drawn : piece.DrawnPlanes()) {
+  const auto drawn = piece.GeometryVertices();
+  solid.vertices.assign(drawn.begin(), drawn.end());
+  for (const CollisionPlane& plane : piece.DrawnPlanes()) {
     const auto number = static_cast<int16_t>(solid.planes.size() + 1);
     solid.planes.push_back(piece.GetCollisionPlane(number));
     solid.corners.push_back(piece.GetFaceCorners(number));
     auto& [greatest, smallest] = solid.bounds.emplace_back(Vector3{9, 9, 9}, Vector3{9, 9, 9});
     piece.GetCollisionPlaneBounds(number, greatest, smallest);
-    EXPECT_EQ(drawn, solid.planes.back());
+    EXPECT_EQ(plane, solid.planes.back());
   }
   return solid;
 }

@@ -157,6 +157,91 @@ TEST_P(GeneratedScenes, BothSchemesDrawTheSamePixels) {
   }
 }
 
+/// A backdrop below something that moves. From frame to frame mostly nothing of it changes, or one
+/// of the things that make it up.
+class Backdrop {
+ public:
+  explicit Backdrop(Device& device) : device_(device) {
+    for (auto& rectangle : rectangles_) rectangle = RandomRectangle();
+  }
+  void RecordFrame() {
+    switch (random_() % 18) {
+      case 0:
+        clear_ ^= 0x102030;
+        break;
+      case 1:
+        texture_ = PlainTexture(static_cast<uint32_t>(random_()) | 0x80000000U);
+        break;
+      case 2:
+        blends_ = !blends_;
+        break;
+      case 3:
+        writesDepth_ = !writesDepth_;
+        break;
+      case 4:
+        rectangles_[0] = RandomRectangle();
+        break;
+      case 5:
+        drawn_ = random_() % 3;
+        break;
+      default:
+        break;
+    }
+    device_.Clear(clear_, 1);
+    device_.BeginScene();
+    device_.SetRenderState(RenderState::AlphaBlend, blends_);
+    device_.SetRenderState(RenderState::DepthWrite, writesDepth_);
+    device_.SetTexture(texture_);
+    device_.SetVertexFormat(VertexFormat::Screen);
+    for (size_t i = 0; i < drawn_; ++i) {
+      device_.SetStreamSource(rectangles_[i], sizeof(ScreenVertex));
+      device_.DrawPrimitive(Primitive::TriangleStrip, 0, 2);
+    }
+    device_.SetRenderState(RenderState::DepthWrite, true);
+    device_.SetTexture(nullptr);
+    at_ += 0.01F;
+    const std::array<Vertex, 3> moving = {{{at_ - 1, -1, 0.5F, 0xFFFF0000, 0, 0, 0},
+                                           {at_, 1, 0.5F, 0xFF00FF00, 0, 0, 0},
+                                           {at_, -1, 0.5F, 0xFF0000FF, 0, 0, 0}}};
+    DrawWorld(device_, moving);
+    device_.EndScene();
+  }
+
+ private:
+  VertexBufferPtr RandomRectangle() {
+    const auto right = static_cast<float>(random_() % 160),
+               low = static_cast<float>(random_() % 120);
+    const std::array<ScreenVertex, 4> vertices = {{{0, 0, 1, 1, 0xFF8090A0, 0, 0, 0},
+                                                   {right, 0, 1, 1, 0xFFFFFFFF, 0, 1, 0},
+                                                   {0, low, 0, 1, 0xFFFFFFFF, 0, 0, 1},
+                                                   {right, low, 0, 1, 0xFF203040, 0, 1, 1}}};
+    return device_.CreateVertexBuffer(vertices);
+  }
+
+  std::mt19937 random_{3};
+  Device& device_;
+  std::array<VertexBufferPtr, 2> rectangles_;
+  TexturePtr texture_;
+  size_t drawn_ = 1;
+  uint32_t clear_ = 0xFF405060;
+  bool blends_ = false, writesDepth_ = false;
+  float at_ = -1;
+};
+
+TEST_P(GeneratedScenes, ABackdropThatWasKeptIsTheOneThatWouldBeDrawn) {
+  Screen batched(gl::Scheme::Batched, GetParam()), plain(gl::Scheme::Plain, GetParam());
+  Device device(std::make_unique<Forwarder>(batched.executor, plain.executor));
+  device.SetRenderState(RenderState::DepthTest, true);
+  device.SetBlend(BlendState::Source, Blend::SourceAlpha);
+  Backdrop backdrop(device);
+  for (int frame = 0; frame < 300; ++frame) {
+    backdrop.RecordFrame();
+    device.Present();
+    ExpectSamePicture(batched.executor->ReadPicture(), plain.executor->ReadPicture(),
+                      "backdrop_" + std::to_string(frame));
+  }
+}
+
 class BatchedTextures : public testing::Test {
  protected:
   static float Left(size_t i) { return static_cast<float>(2 * (i % 50)); }

@@ -7,8 +7,8 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cache=$(command -v ccache || true)
 
-sources=(platform/{clock,controls,d3dx,d3dx_maths,device,dialogs,error_text,paths}.cpp
-  platform/{random,resources,text,whole_file}.cpp platform/null/*.cpp render/*/*.cpp
+sources=(platform/{clock,controls,d3dx,d3dx_maths,device,dialogs,error_text,frustum}.cpp
+  platform/{paths,random,resources,text,whole_file}.cpp platform/null/*.cpp render/*/*.cpp
   {level,play,files}/*.cpp tools/vorbilax_track/drive_{run,script}.cpp
   tests/play/trajectory_test.cpp)
 

@@ -1,8 +1,9 @@
-#include "platform/gl/frustum.h"
+#include "platform/frustum.h"
 
 #include <bit>
 
-namespace gl {
+using lanes::Float4, lanes::Splat, lanes::Abs;
+
 namespace {
 
 // Generous against rounding here and in the shader: 32 units in the last place of the largest term.
@@ -17,7 +18,22 @@ bool AnySet(Int4 lanes) {
 
 }  // namespace
 
-Frustum::Frustum(const UniformMatrix& toClip) {
+Matrix4 WorldToClip(const Camera& camera) {
+  Matrix4 product;
+  for (size_t row = 0; row < 4; ++row) {
+    for (size_t column = 0; column < 4; ++column) {
+      double sum = 0;
+      for (size_t k = 0; k < 4; ++k) {
+        sum += double{camera.view.m[row][k]} * camera.projection.m[k][column];
+      }
+      product.m[row][column] = static_cast<float>(sum);
+    }
+  }
+  return product;
+}
+
+Frustum::Frustum(const Camera& camera) {
+  const Matrix4 toClip = WorldToClip(camera);
   // Lanes: left, right, bottom, top; near, far, and the last two again.
   constexpr std::array<std::array<float, 2>, 6> kXYSigns = {
       {{1, 0}, {-1, 0}, {0, 1}, {0, -1}, {0, 0}, {0, 0}}};
@@ -25,8 +41,9 @@ Frustum::Frustum(const UniformMatrix& toClip) {
   for (size_t lane = 0; lane < 8; ++lane) {
     const size_t plane = lane < 6 ? lane : lane - 2;
     const auto component = [&](size_t row) {
-      return kXYSigns[plane][0] * toClip[4 * row] + kXYSigns[plane][1] * toClip[4 * row + 1] +
-             kZSigns[plane] * toClip[4 * row + 2] + kWSigns[plane] * toClip[4 * row + 3];
+      const auto& from = toClip.m[row];
+      return kXYSigns[plane][0] * from[0] + kXYSigns[plane][1] * from[1] +
+             kZSigns[plane] * from[2] + kWSigns[plane] * from[3];
     };
     FourPlanes& four = planes_[lane / 4];
     four.nx[lane % 4] = component(0);
@@ -47,13 +64,11 @@ bool Frustum::FourPlanes::AnyBehind(Float4 centre, Float4 reach) const {
 
 bool Frustum::MaySee(const VertexBufferObject& buffer, const Matrix4& world) const {
   const Vector3 &low = buffer.Smallest(), &high = buffer.Greatest();
-  const Rows rows(world);
+  const lanes::Rows rows(world);
   const Float4 centre =
       rows.Place(0.5F * (low.x + high.x), 0.5F * (low.y + high.y), 0.5F * (low.z + high.z));
   const Float4 reach = Splat(0.5F * (high.x - low.x)) * Abs(rows.rows[0]) +
                        Splat(0.5F * (high.y - low.y)) * Abs(rows.rows[1]) +
                        Splat(0.5F * (high.z - low.z)) * Abs(rows.rows[2]);
-  return !planes_[0].AnyBehind(centre, reach) && !planes_[1].AnyBehind(centre, reach);
+  return MaySee(centre, reach);
 }
-
-}  // namespace gl

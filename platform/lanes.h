@@ -5,7 +5,7 @@
 
 #include "platform/values.h"
 
-namespace gl {
+namespace lanes {
 
 using Float4 = float __attribute__((vector_size(16)));
 
@@ -23,4 +23,4 @@ struct Rows {
   Float4 rows[4];
 };
 
-}  // namespace gl
+}  // namespace lanes
