@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "bench/visible_triangles.h"
+#include "platform/frustum.h"
 
 namespace bench {
 namespace {
@@ -45,7 +46,7 @@ FloorExecutor::Frame FloorExecutor::Build(CommandList list) {
     gl::PlaceExpanded(draw, list.worlds[draw.world], place.layer, vertices.data() + first, scratch);
     if (draw.format == VertexFormat::World) {
       vertices.resize(first + KeepVisible(std::span(vertices).subspan(first),
-                                          gl::WorldToClip(list.cameras[draw.camera])));
+                                          WorldToClip(list.cameras[draw.camera])));
     }
     if (vertices.size() == first) continue;
     const gl::DrawMode mode = gl::ModeOf(draw);

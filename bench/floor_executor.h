@@ -19,7 +19,7 @@ class FloorExecutor {
   void Prepare(std::vector<CommandList> frames);
   /// Draws the frame with this number, from 0.
   void Draw(size_t frame);
-  Image ReadPicture() const { return pipeline_.ReadPicture(); }
+  const Image& ReadPicture() { return pipeline_.ReadPicture(); }
 
  private:
   /// Consecutive draws that need nothing set between them.

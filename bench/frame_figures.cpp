@@ -52,7 +52,7 @@ int SceneFigures::Measure(BenchEditor& editor) {
 
 void SceneFigures::MeasureTimes(Schemes& schemes) const {
   std::vector<Variant> variants;
-  const auto add = [&](const char* name, Image (Schemes::*draw)(int), int frames) {
+  const auto add = [&](const char* name, const Image& (Schemes::*draw)(int), int frames) {
     Variant& variant = variants.emplace_back();
     variant.name = name;
     variant.draw = [&schemes, draw](int frame) { (schemes.*draw)(frame); };

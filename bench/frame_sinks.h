@@ -11,19 +11,24 @@ namespace bench {
 class KeepFrames : public gl::PictureExecutor {
  public:
   void Execute(const CommandList& frame) override { frame_ = frame; }
-  Image ReadPicture() override { return {}; }
+  const Image& ReadPicture() override { return none_; }
   CommandList Take() { return std::exchange(frame_, {}); }
 
  private:
   CommandList frame_;
+  Image none_;
 };
 
-/// Drops every frame. Whatever a device asks its executor is to be answered as the batched executor
-/// does: recording for this one is what recording costs the user.
+/// Drops every frame. Answers devices as the batched executor does: recording for this one is what
+/// recording costs the user.
 class DropFrames : public gl::PictureExecutor {
  public:
   void Execute(const CommandList&) override {}
-  Image ReadPicture() override { return {}; }
+  bool NeedsUnseen() const override { return false; }
+  const Image& ReadPicture() override { return none_; }
+
+ private:
+  Image none_;
 };
 
 }  // namespace bench

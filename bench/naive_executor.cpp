@@ -13,7 +13,8 @@ constexpr int kFaceVertices = 6;
 
 std::vector<gl::StreamVertex> UnitBox() {
   std::vector<gl::StreamVertex> vertices;
-  for (const Vertex& v : box::Unit()) vertices.push_back({v.x, v.y, v.z, v.colour, v.tu, v.tv, 0});
+  for (const Vertex& v : box::MakeVertices(box::Unit()))
+    vertices.push_back({v.x, v.y, v.z, v.colour, v.tu, v.tv, 0});
   return vertices;
 }
 

@@ -22,7 +22,7 @@ class NaiveExecutor : public gl::PictureExecutor {
   void Load();
   /// Draws a frame of a document without pieces, then the blocks.
   void Execute(const CommandList& emptyFrame) override;
-  Image ReadPicture() override { return pipeline_.ReadPicture(); }
+  const Image& ReadPicture() override { return pipeline_.ReadPicture(); }
 
  private:
   struct Block {

@@ -44,28 +44,28 @@ CommandList Schemes::Recorded(int frame) {
 }
 
 template <typename DrawsHere>
-Image Schemes::DrawRecorded(Screen<DrawsHere>& screen, int frame) {
+const Image& Schemes::DrawRecorded(Screen<DrawsHere>& screen, int frame) {
   const Using device(screen);
   LookAtDepth(kSceneDepth + static_cast<float>(PlaceOf(frame)) * kStep);
   RenderFrame();
   return screen.executor->ReadPicture();
 }
 
-Image Schemes::DrawBatched(int frame) { return DrawRecorded(editor_.batched, frame); }
+const Image& Schemes::DrawBatched(int frame) { return DrawRecorded(editor_.batched, frame); }
 
-Image Schemes::DrawPlain(int frame) { return DrawRecorded(editor_.plain, frame); }
+const Image& Schemes::DrawPlain(int frame) { return DrawRecorded(editor_.plain, frame); }
 
-Image Schemes::DrawFloor(int frame) {
+const Image& Schemes::DrawFloor(int frame) {
   floor_.Draw(PlaceOf(frame));
   return floor_.ReadPicture();
 }
 
-Image Schemes::DrawNaive(int frame) {
+const Image& Schemes::DrawNaive(int frame) {
   naive_.Execute(emptyFrames_[PlaceOf(frame)]);
   return naive_.ReadPicture();
 }
 
-Image Schemes::DrawEmpty(int frame) {
+const Image& Schemes::DrawEmpty(int frame) {
   const WithoutPieces without;
   return DrawBatched(frame);
 }

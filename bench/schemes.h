@@ -18,16 +18,16 @@ class Schemes {
   /// Prepares whatever OpenGL keeps, for the track that is open.
   explicit Schemes(BenchEditor& editor);
 
-  Image DrawBatched(int frame);
-  Image DrawPlain(int frame);
-  Image DrawFloor(int frame);
-  Image DrawNaive(int frame);
+  const Image& DrawBatched(int frame);
+  const Image& DrawPlain(int frame);
+  const Image& DrawFloor(int frame);
+  const Image& DrawNaive(int frame);
   /// As DrawBatched, of a document without pieces.
-  Image DrawEmpty(int frame);
+  const Image& DrawEmpty(int frame);
 
  private:
   template <typename DrawsHere>
-  Image DrawRecorded(Screen<DrawsHere>& screen, int frame);
+  const Image& DrawRecorded(Screen<DrawsHere>& screen, int frame);
   CommandList Recorded(int frame);
 
   BenchEditor& editor_;

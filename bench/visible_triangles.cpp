@@ -11,9 +11,9 @@ struct ClipPoint {
 };
 using Triangle = std::array<ClipPoint, 3>;
 
-ClipPoint ToClip(const gl::StreamVertex& v, const gl::UniformMatrix& m) {
+ClipPoint ToClip(const gl::StreamVertex& v, const Matrix4& m) {
   const auto along = [&](size_t i) {
-    return double{v.x} * m[i] + double{v.y} * m[4 + i] + double{v.z} * m[8 + i] + m[12 + i];
+    return double{v.x} * m.m[0][i] + double{v.y} * m.m[1][i] + double{v.z} * m.m[2][i] + m.m[3][i];
   };
   return {along(0), along(1), along(2), along(3)};
 }
@@ -38,7 +38,7 @@ bool FacesCamera(const Triangle& t) {
 
 }  // namespace
 
-size_t KeepVisible(std::span<gl::StreamVertex> triangles, const gl::UniformMatrix& toClip) {
+size_t KeepVisible(std::span<gl::StreamVertex> triangles, const Matrix4& toClip) {
   size_t kept = 0;
   for (size_t i = 0; i + 2 < triangles.size(); i += 3) {
     Triangle triangle{};
