@@ -12,8 +12,7 @@ const void* Offset(size_t bytes) { return reinterpret_cast<const void*>(bytes); 
 
 }  // namespace
 
-VertexStream::VertexStream() {
-  Bind();
+void DescribeStreamVertex() {
   for (GLuint attribute = 0; attribute < 4; ++attribute) glEnableVertexAttribArray(attribute);
   constexpr GLsizei stride = sizeof(StreamVertex);
   glVertexAttribPointer(0, 3, GL_FLOAT, GL_FALSE, stride, Offset(offsetof(StreamVertex, x)));
@@ -21,6 +20,11 @@ VertexStream::VertexStream() {
                         Offset(offsetof(StreamVertex, colour)));
   glVertexAttribPointer(2, 2, GL_FLOAT, GL_FALSE, stride, Offset(offsetof(StreamVertex, tu)));
   glVertexAttribIPointer(3, 1, GL_INT, stride, Offset(offsetof(StreamVertex, layer)));
+}
+
+VertexStream::VertexStream() {
+  Bind();
+  DescribeStreamVertex();
 }
 
 void VertexStream::Bind() const {

@@ -8,6 +8,9 @@
 
 namespace gl {
 
+/// Tells the bound vertex array how to read StreamVertex from the bound array buffer.
+void DescribeStreamVertex();
+
 /// A buffer that is filled front to back and handed back to the driver when it is full, so that
 /// nothing waits for earlier draws.
 class VertexStream {

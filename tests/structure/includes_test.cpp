@@ -67,7 +67,9 @@ const std::map<std::string, Names> kAllowed = {
     {"tools",
      {"platform", "platform/qt", "platform/gl", "platform/mesh", "platform/null", "render/device",
       "render/frame", "level", "files", "play"}},
-    {"bench", {"platform", "platform/gl"}},
+    {"bench",
+     {"platform", "platform/gl", "platform/null", "render/device", "render/frame", "level", "files",
+      "play", "editor", "tools"}},
 };
 
 TEST(Structure, RoomsIncludeOnlyDownwards) {

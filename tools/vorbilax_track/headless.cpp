@@ -13,6 +13,8 @@
 namespace track_tool {
 namespace {
 
+using MakeExecutor = HeadlessEditor::MakeExecutor;
+
 constexpr Place kViewport{0, 0, 601, 457};
 
 std::shared_ptr<null_platform::World> WorldWithRealFiles() {
@@ -25,7 +27,8 @@ std::shared_ptr<null_platform::World> WorldWithRealFiles() {
 /// The headless context as display adapter.
 class HeadlessAdapter : public GraphicsAdapter {
  public:
-  HeadlessAdapter(gl::Scheme scheme, gl::PictureExecutor*& made) : scheme_(scheme), made_(made) {}
+  HeadlessAdapter(const MakeExecutor& make, gl::PictureExecutor*& made)
+      : make_(make), made_(made) {}
   void GetDeviceCaps() override {}
   DisplayFormat GetDisplayMode() override { return DisplayFormat::X8R8G8B8; }
   bool CheckMultisample(DisplayFormat, int samples) override {
@@ -33,22 +36,21 @@ class HeadlessAdapter : public GraphicsAdapter {
   }
   std::unique_ptr<Device> CreateDevice(PictureArea& target,
                                        const PresentSettings& settings) override {
-    auto executor = gl::CreateExecutor(
-        scheme_, {target.ScaleWidth(), target.ScaleHeight(), settings.samples, 1.0});
+    auto executor = make_({target.ScaleWidth(), target.ScaleHeight(), settings.samples, 1.0});
     made_ = executor.get();
     return std::make_unique<Device>(std::move(executor));
   }
 
  private:
-  gl::Scheme scheme_;
+  MakeExecutor make_;
   gl::PictureExecutor*& made_;
 };
 
 class HeadlessRoot : public PlatformRoot {
  public:
-  HeadlessRoot(gl::Scheme scheme, gl::PictureExecutor*& made) : scheme_(scheme), made_(made) {}
+  HeadlessRoot(const MakeExecutor& make, gl::PictureExecutor*& made) : make_(make), made_(made) {}
   std::unique_ptr<GraphicsAdapter> CreateD3D() override {
-    return std::make_unique<HeadlessAdapter>(scheme_, made_);
+    return std::make_unique<HeadlessAdapter>(make_, made_);
   }
   std::unique_ptr<d3dx::Library> CreateD3DX() override {
     return std::make_unique<d3dx::Library>(qt::LoadImageFile, mesh::ReadXFile);
@@ -58,7 +60,7 @@ class HeadlessRoot : public PlatformRoot {
   }
 
  private:
-  gl::Scheme scheme_;
+  MakeExecutor make_;
   gl::PictureExecutor*& made_;
 };
 
@@ -88,13 +90,19 @@ bool HeadlessEditor::Start() {
 }
 
 bool HeadlessEditor::Start(gl::Scheme scheme) {
+  return Start([scheme](const gl::TargetSettings& settings) {
+    return gl::CreateExecutor(scheme, settings);
+  });
+}
+
+bool HeadlessEditor::Start(const MakeExecutor& make) {
   try {
-    context_ = std::make_unique<gl::HeadlessContext>();
+    if (!context_) context_ = std::make_unique<gl::HeadlessContext>();
   } catch (const PlatformError& failure) {
     dialogs::ShowMessage(failure.what());
     return false;
   }
-  createPlatformRoot = [this, scheme] { return std::make_unique<HeadlessRoot>(scheme, executor_); };
+  createPlatformRoot = [this, make] { return std::make_unique<HeadlessRoot>(make, executor_); };
   return InitDevice();
 }
 

@@ -1,6 +1,7 @@
 // The editor's device and document without a window.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "platform/controls.h"
@@ -30,6 +31,10 @@ class HeadlessEditor {
   bool Start();
   /// Starts the device on a headless OpenGL context.
   bool Start(gl::Scheme scheme);
+  /// The same with what draws for it, as for every device that is created later.
+  using MakeExecutor =
+      std::function<std::unique_ptr<gl::PictureExecutor>(const gl::TargetSettings&)>;
+  bool Start(const MakeExecutor& make);
   /// The last frame, when started with OpenGL.
   Image ReadPicture();
 
