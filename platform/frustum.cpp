@@ -51,14 +51,19 @@ Frustum::Frustum(const Camera& camera) {
     four.nz[lane % 4] = component(2);
     four.d[lane % 4] = component(3);
   }
+  for (FourPlanes& four : planes_) {
+    four.ax = Abs(four.nx);
+    four.ay = Abs(four.ny);
+    four.az = Abs(four.nz);
+    four.ad = Abs(four.d);
+  }
 }
 
 bool Frustum::FourPlanes::AnyBehind(Float4 centre, Float4 reach) const {
   const Float4 x = Splat(centre[0]), y = Splat(centre[1]), z = Splat(centre[2]);
-  const Float4 ax = Abs(nx), ay = Abs(ny), az = Abs(nz);
   const Float4 distance = nx * x + ny * y + nz * z + d;
   const Float4 radius = ax * Splat(reach[0]) + ay * Splat(reach[1]) + az * Splat(reach[2]);
-  const Float4 size = ax * Abs(x) + ay * Abs(y) + az * Abs(z) + Abs(d) + radius;
+  const Float4 size = ax * Abs(x) + ay * Abs(y) + az * Abs(z) + ad + radius;
   return AnySet(distance + radius + Splat(kSlack) * size < 0);
 }
 

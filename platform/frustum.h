@@ -28,6 +28,7 @@ class Frustum {
   /// Four planes side by side, inside where x·nx + y·ny + z·nz + d >= 0.
   struct FourPlanes {
     lanes::Float4 nx, ny, nz, d;
+    lanes::Float4 ax, ay, az, ad;  ///< the same without signs
     bool AnyBehind(lanes::Float4 centre, lanes::Float4 reach) const;
   };
   bool MaySee(lanes::Float4 centre, lanes::Float4 reach) const {
