@@ -11,6 +11,7 @@ namespace {
 constexpr double kBurst = 60;       // milliseconds
 constexpr double kSlowFrame = 250;  // milliseconds
 constexpr int kMostFrames = 24;
+constexpr int kUncounted = 3;
 
 double ThreadMilliseconds() {
   timespec time{};
@@ -25,7 +26,7 @@ double FrameTime(Variant& variant) {
 }
 
 Times Burst(Variant& variant, bool slow) {
-  if (!slow) variant.DrawNext();
+  for (int i = 0; i < kUncounted && !slow; ++i) variant.DrawNext();
   const Times sum = Time([&] {
     for (int frame = 0; frame < variant.frames; ++frame) variant.DrawNext();
   });
@@ -51,7 +52,7 @@ void RunInterleaved(std::vector<Variant>& variants, const Rounds& rounds) {
     const int fitting = static_cast<int>(std::lround(kBurst / frame));
     if (variant.frames == 0) variant.frames = std::clamp(fitting, 1, kMostFrames);
     slow.push_back(frame > kSlowFrame);
-    round += frame * (variant.frames + (slow.back() ? 0 : 1));
+    round += frame * (variant.frames + (slow.back() ? 0 : kUncounted));
   }
   const int affordable = static_cast<int>(rounds.seconds * 1000 / round);
   for (int turn = std::clamp(affordable, rounds.least, rounds.most); turn > 0; --turn) {

@@ -34,8 +34,8 @@ struct Rounds {
   double seconds;
 };
 
-/// A burst of each variant after the other, in rounds. Each burst of quick frames begins with one
-/// that is not counted, which brings back what the others drove out of the caches.
+/// A burst of each variant after the other, in rounds. Each burst of quick frames begins with
+/// some that are not counted: they bring back what the others drove out of the caches.
 void RunInterleaved(std::vector<Variant>& variants, const Rounds& rounds);
 
 double Median(std::vector<double> values);
