@@ -161,56 +161,35 @@ TEST_P(GeneratedScenes, BothSchemesDrawTheSamePixels) {
 /// of the things that make it up.
 class Backdrop {
  public:
-  explicit Backdrop(Device& device) : device_(device) {
-    for (auto& rectangle : rectangles_) rectangle = RandomRectangle();
-  }
+  explicit Backdrop(Device& device) : device_(device) {}
   void RecordFrame() {
-    switch (random_() % 18) {
-      case 0:
-        clear_ ^= 0x102030;
-        break;
-      case 1:
-        texture_ = PlainTexture(static_cast<uint32_t>(random_()) | 0x80000000U);
-        break;
-      case 2:
-        blends_ = !blends_;
-        break;
-      case 3:
-        writesDepth_ = !writesDepth_;
-        break;
-      case 4:
-        rectangles_[0] = RandomRectangle();
-        break;
-      case 5:
-        drawn_ = random_() % 3;
-        break;
-      default:
-        break;
-    }
+    const auto choice = random_() % 18;
+    if (choice == 0) clear_ ^= 0x102030;
+    if (choice == 1) texture_ = PlainTexture(static_cast<uint32_t>(random_()) | 0x80000000U);
+    if (choice == 2) blends_ = !blends_;
+    if (choice == 3) writesDepth_ = !writesDepth_;
+    if (choice == 4 || !rectangle_) rectangle_ = RandomRectangle();
+    if (choice == 5) drawn_ = random_() % 3;
     device_.Clear(clear_, 1);
     device_.BeginScene();
     device_.SetRenderState(RenderState::AlphaBlend, blends_);
     device_.SetRenderState(RenderState::DepthWrite, writesDepth_);
     device_.SetTexture(texture_);
     device_.SetVertexFormat(VertexFormat::Screen);
-    for (size_t i = 0; i < drawn_; ++i) {
-      device_.SetStreamSource(rectangles_[i], sizeof(ScreenVertex));
-      device_.DrawPrimitive(Primitive::TriangleStrip, 0, 2);
-    }
-    device_.SetRenderState(RenderState::DepthWrite, true);
+    device_.SetStreamSource(rectangle_, sizeof(ScreenVertex));
+    for (size_t i = 0; i < drawn_; ++i) device_.DrawPrimitive(Primitive::TriangleStrip, 0, 2);
     device_.SetTexture(nullptr);
     at_ += 0.01F;
-    const std::array<Vertex, 3> moving = {{{at_ - 1, -1, 0.5F, 0xFFFF0000, 0, 0, 0},
-                                           {at_, 1, 0.5F, 0xFF00FF00, 0, 0, 0},
-                                           {at_, -1, 0.5F, 0xFF0000FF, 0, 0, 0}}};
-    DrawWorld(device_, moving);
+    DrawWorld(device_, std::array<Vertex, 3>{{{at_ - 1, -1, 0.5F, 0xFFFF0000, 0, 0, 0},
+                                              {at_, 1, 0.5F, 0xFF00FF00, 0, 0, 0},
+                                              {at_, -1, 0.5F, 0xFF0000FF, 0, 0, 0}}});
     device_.EndScene();
   }
 
  private:
   VertexBufferPtr RandomRectangle() {
     const auto right = static_cast<float>(random_() % 160),
-               low = static_cast<float>(random_() % 120);
+               low = static_cast<float>(random_() % 99);
     const std::array<ScreenVertex, 4> vertices = {{{0, 0, 1, 1, 0xFF8090A0, 0, 0, 0},
                                                    {right, 0, 1, 1, 0xFFFFFFFF, 0, 1, 0},
                                                    {0, low, 0, 1, 0xFFFFFFFF, 0, 0, 1},
@@ -220,11 +199,11 @@ class Backdrop {
 
   std::mt19937 random_{3};
   Device& device_;
-  std::array<VertexBufferPtr, 2> rectangles_;
+  VertexBufferPtr rectangle_;
   TexturePtr texture_;
   size_t drawn_ = 1;
   uint32_t clear_ = 0xFF405060;
-  bool blends_ = false, writesDepth_ = false;
+  bool blends_ = true, writesDepth_ = false;
   float at_ = -1;
 };
 
