@@ -20,6 +20,7 @@ BatchedExecutor::BatchedExecutor(const TargetSettings& settings)
 void BatchedExecutor::Execute(const CommandList& frame) {
   if (memory_.Holds(frame)) return;
   picture_ = nullptr;
+  ++framesDrawn_;
   try {
     DrawFrame(frame);
   } catch (...) {

@@ -14,6 +14,11 @@ class PictureExecutor : public Executor {
  public:
   /// The last presented frame, top row first, opaque. It stays until the next one is read.
   virtual const Image& ReadPicture() = 0;
+  /// Counts the frames that were drawn: while it stays, so does the picture.
+  uint64_t FramesDrawn() const { return framesDrawn_; }
+
+ protected:
+  uint64_t framesDrawn_ = 0;
 };
 
 /// Batched: what users get. Plain: one draw call per recorded draw, the oracle for the other.

@@ -20,9 +20,9 @@ GLenum ModeName(Primitive primitive) {
 }  // namespace
 
 void PlainExecutor::Execute(const CommandList& frame) {
-  ++frame_;
+  ++framesDrawn_;
   std::erase_if(textures_,
-                [this](const auto& item) { return item.second.lastFrame + kFramesKept < frame_; });
+                [this](const auto& item) { return item.second.lastFrame + kFramesKept < framesDrawn_; });
   pipeline_.BeginFrame(frame);
   stream_.Bind();
   for (const Command& command : frame.commands) {
@@ -46,7 +46,7 @@ bool PlainExecutor::Bind(const TextureObject& texture) {
   if (refused_.Contains(texture)) return false;
   const auto [item, isNew] = textures_.try_emplace(texture.Id());
   StoredTexture& stored = item->second;
-  stored.lastFrame = frame_;
+  stored.lastFrame = framesDrawn_;
   glBindTexture(GL_TEXTURE_2D_ARRAY, stored.name.Name());
   if (!isNew) return true;
   // One layer each: drivers round differently for other kinds of texture.

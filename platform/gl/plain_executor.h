@@ -31,7 +31,6 @@ class PlainExecutor : public PictureExecutor {
   std::unordered_map<uint64_t, StoredTexture> textures_;  // by TextureObject::Id
   RefusedTextures refused_;
   std::vector<StreamVertex> vertices_;
-  uint64_t frame_ = 0;
 };
 
 }  // namespace gl

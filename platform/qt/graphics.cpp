@@ -71,7 +71,9 @@ class ViewExecutor : public Executor {
     context_->MakeCurrent();
     FitScale();
     drawing_->Execute(frame);
+    if (shown_ == drawing_->FramesDrawn()) return;
     view_->Show(drawing_->ReadPicture());
+    shown_ = drawing_->FramesDrawn();
   }
 
  private:
@@ -83,12 +85,14 @@ class ViewExecutor : public Executor {
     drawing_ =
         gl::CreateExecutor(gl::Scheme::Batched, {view_->width(), view_->height(), samples_, scale});
     scale_ = scale;
+    shown_ = 0;
   }
 
   std::shared_ptr<GlContext> context_;
   QPointer<PictureView> view_;
   int samples_;
   double scale_ = 0.0;
+  uint64_t shown_ = 0;  ///< frames drawn by then
   std::unique_ptr<gl::PictureExecutor> drawing_;
 };
 
