@@ -21,8 +21,9 @@ GLenum ModeName(Primitive primitive) {
 
 void PlainExecutor::Execute(const CommandList& frame) {
   ++framesDrawn_;
-  std::erase_if(textures_,
-                [this](const auto& item) { return item.second.lastFrame + kFramesKept < framesDrawn_; });
+  std::erase_if(textures_, [this](const auto& item) {
+    return item.second.lastFrame + kFramesKept < framesDrawn_;
+  });
   pipeline_.BeginFrame(frame);
   stream_.Bind();
   for (const Command& command : frame.commands) {
