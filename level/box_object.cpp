@@ -73,9 +73,6 @@ box::Corners BoxObject::GetFaceCorners(int16_t planenumber) const {
   return box::FaceCorners(position_, size_, planenumber);
 }
 
-// Refused at once rather than when somebody meets them.
-void BoxObject::CheckPlanes() const { (void)DrawnPlanes(); }
-
 void BoxObject::StartGeometry() {
   look_->shape = box::Unit();
   RefreshVertexBuffer();

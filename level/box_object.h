@@ -86,8 +86,9 @@ class BoxObject {
   }
   /// The planes lie where the box is from now on. Throws std::overflow_error when they do not fit.
   void CalculateCollisionPlanes() {
+    // Refused at once rather than when somebody meets them.
+    if (IsHuge(position_) || IsHuge(size_)) (void)DrawnPlanes();
     planesBehind_ = false;
-    if (IsHuge(position_) || IsHuge(size_)) CheckPlanes();
   }
 
   void StartGeometry();
@@ -111,7 +112,6 @@ class BoxObject {
     constexpr float kHuge = 1e6F;
     return !(std::abs(v.x) < kHuge && std::abs(v.y) < kHuge && std::abs(v.z) < kHuge);
   }
-  void CheckPlanes() const;
   void LeavePlanes() {
     if (!planesBehind_) look_->planes = Drawn();
     planesBehind_ = true;

@@ -22,10 +22,17 @@ Indices IndicesNear(std::span<const Object> objects) {
 
 template <typename Object>
 void Add(const Object& object, ObjectKind type, size_t index, int16_t plane, int16_t kindCode) {
-  CollisionList.push_back({object.GetPlaneNormal(plane), object.GetCollisionPlane(plane), kindCode,
-                           plane, type, static_cast<int16_t>(index),
-                           static_cast<float>(object.Xpos()), static_cast<float>(object.Ypos()),
-                           static_cast<float>(object.Zpos()), object.GetFaceCorners(plane)});
+  const CollisionPlane p = object.GetCollisionPlane(plane);
+  CollisionList.push_back({{p.a, p.b, p.c},
+                           p,
+                           kindCode,
+                           plane,
+                           type,
+                           static_cast<int16_t>(index),
+                           static_cast<float>(object.Xpos()),
+                           static_cast<float>(object.Ypos()),
+                           static_cast<float>(object.Zpos()),
+                           object.GetFaceCorners(plane)});
 }
 
 void AddPlatforms(const Indices& near, std::initializer_list<int16_t> planes) {
