@@ -9,6 +9,7 @@
 
 #include "level/collision_plane.h"
 #include "platform/values.h"
+#include "play/sweep.h"
 
 namespace CollisionDetection {
 
@@ -42,18 +43,6 @@ inline bool PlatformLeftContact = false, PlatformRightContact = false;
 inline Vector3 AxisY, AxisX, AxisZ;
 
 /// The sweep of the current candidate.
-struct SweepState {
-  float Radius = 0;                    ///< half the box along the plane's normal
-  Vector4 Centre;                      ///< of the box, now
-  Vector4 NextCentre;                  ///< after the step, relative to the object
-  Vector4 Motion;                      ///< from one to the other
-  CollisionPlane Shifted;              ///< the plane, moved outwards by the radius
-  float HitTime = 0;                   ///< part of the step until the touch, above 0 and up to 1
-  float Distance = 0;                  ///< of the centre from the shifted plane
-  float Approach = 0;                  ///< change of the distance over the step
-  float DotY = 0, DotX = 0, DotZ = 0;  ///< the plane's normal against the box's axes
-  int32_t AxesInvolved = 0;            ///< how many of them are not 0
-};
 inline SweepState Sweep;
 
 /// The points of the box that touch the current plane.
@@ -72,8 +61,6 @@ bool SweepCandidate(const CollisionCandidate& candidate);
 /// Fills ContactPoints from Sweep. A plane tilted against all three axes of the box ends the
 /// program after a message.
 void CalculateContactPoints();
-/// −1 below 0, otherwise +1.
-float SignOf(float x);
 /// Whether a contact point lies inside the candidate's face.
 bool PointInCollisionFace(const CollisionCandidate& candidate, const Vector3& p);
 

@@ -1,5 +1,4 @@
-// The car: its place, its velocities, the states that the track can put it in, its picture. Lengths
-// in world units, velocities in world units per frame.
+// The car of the game: its motion, its picture, its explosion.
 #pragma once
 
 #include <array>
@@ -8,42 +7,45 @@
 #include <vector>
 
 #include "platform/d3dx.h"
+#include "play/car.h"
 #include "render/device/clsParticles.h"
 
 class clsPlayer {
  public:
   // The reference point: the middle of the front edge of the box's underside.
-  float Posx() const { return position_.x; }
-  void Posx(float x) { position_.x = x; }
-  float PosY() const { return position_.y; }
-  void PosY(float y) { position_.y = y; }
-  float Posz() const { return position_.z; }
-  void Posz(float z) { position_.z = z; }
-  float ForwardVelocity() const { return velocity_.z; }
-  void ForwardVelocity(float z) { velocity_.z = z; }
-  float verticalvelocity() const { return velocity_.y; }
-  void verticalvelocity(float y) { velocity_.y = y; }
-  float HorizontalVelocity() const { return velocity_.x; }
+  float Posx() const { return car_.position.x; }
+  void Posx(float x) { car_.position.x = x; }
+  float PosY() const { return car_.position.y; }
+  void PosY(float y) { car_.position.y = y; }
+  float Posz() const { return car_.position.z; }
+  void Posz(float z) { car_.position.z = z; }
+  float ForwardVelocity() const { return car_.velocity.z; }
+  void ForwardVelocity(float z) { car_.velocity.z = z; }
+  float verticalvelocity() const { return car_.velocity.y; }
+  void verticalvelocity(float y) { car_.velocity.y = y; }
+  float HorizontalVelocity() const { return car_.velocity.x; }
   /// Only −1 to 1 is stored.
-  void HorizontalVelocity(float x);
+  void HorizontalVelocity(float x) { car_.SteerTo(x); }
   /// The run is over: the track must be reset.
-  bool DeathStatus() const { return DeathStatus_; }
-  void DeathStatus(bool b) { DeathStatus_ = b; }
+  bool DeathStatus() const { return car_.Dead; }
+  void DeathStatus(bool b) { car_.Dead = b; }
 
-  void accelerate();
-  void deccelerate();
-  void Moveleft() { HorizontalVelocity(-0.12F); }
-  void MoveRight() { HorizontalVelocity(0.12F); }
-  void SetPlayerOnIce();
-  void setplayernotonice();
-  bool ISPlayerOnAnIceBlock() const { return OnIce_; }
+  void accelerate() { car_.Accelerate(); }
+  void deccelerate() { car_.Brake(); }
+  void Moveleft() { car_.SteerTo(-Car::kSideways); }
+  void MoveRight() { car_.SteerTo(Car::kSideways); }
+  void SetPlayerOnIce() { car_.PutOnIce(); }
+  void setplayernotonice() { car_.TakeOffIce(); }
+  bool ISPlayerOnAnIceBlock() const { return car_.OnIce; }
   /// Starts the spin of a jump pad: two full turns.
   void SetBouncePad();
   /// Starts the explosion at the car's place; one that is running goes on.
   void explode();
-  bool getexplodeStatus() const { return ExplodeStatus_; }
+  bool getexplodeStatus() const { return car_.Exploding; }
   /// Back to the start of the track, at rest.
   void resetPLayer();
+  /// The numbers behind the picture.
+  Car& Motion() { return car_; }
 
   /// Loads model, skins and explosion pictures, then resets. Throws PlatformError.
   void load(const std::string& modelFile);
@@ -51,39 +53,30 @@ class clsPlayer {
   /// explodes, shows the explosion and in the end sets DeathStatus.
   void draw();
 
-  Vector3 GetPosition() const { return position_; }
-  Vector4 GetVelocity() const { return {velocity_.x, velocity_.y, velocity_.z, 0}; }
+  Vector3 GetPosition() const { return car_.position; }
+  Vector4 GetVelocity() const { return {car_.velocity.x, car_.velocity.y, car_.velocity.z, 0}; }
   /// Corner i (1 to 8) of the collision box; throws std::out_of_range otherwise.
   Vector4 GetCollisionPoint(int32_t i) const;
-  Vector4 CalculateCollisionBoxCentre() const;
+  Vector4 CalculateCollisionBoxCentre() const { return car_.Centre(); }
   /// Half the extent of the collision box along the unit vector n.
-  float CalculateEffectiveRadius(const Vector3& n);
+  static float CalculateEffectiveRadius(const Vector3& n) { return Car::EffectiveRadius(n); }
 
-  int32_t ExplosionFrame() const { return ExplosionFrame_; }
+  int32_t ExplosionFrame() const { return car_.ExplosionFrame; }
 
  private:
   void SetCollisionPoints();
   // clsPlayer_draw.cpp
   void LoadExplosion();
-  void Advance();
   void PlaceCar();
   void TurnCar();
   void DrawBody() const;
   void FollowWithCamera() const;
   void DrawExplosion();
 
-  Vector3 position_;
-  Vector3 velocity_;
-  float Deceleration_ = 0;
-  bool OnIce_ = false;
+  Car car_;
   bool Bouncing_ = false;
   float SpinAngle_ = 0;  ///< degrees
-  bool ExplodeStatus_ = false;
-  bool DeathStatus_ = false;
-  int32_t ExplosionFrame_ = 0;
-  int32_t LastFrameTick_ = 0;  ///< milliseconds
   std::array<Vector3, 8> CollisionPoints_{};
-  std::array<Vector3, 3> BoxAxes_{};
   d3dx::MeshPtr Mesh_;
   int32_t MaterialCount_ = 0;
   std::vector<Material> Materials_;

@@ -17,8 +17,6 @@ constexpr double kRadiansPerDegree = 0.017453292;
 constexpr float kSkid = 0.17453292F;                               ///< radians
 constexpr float kBoxMiddle = 0.4F;                                 ///< behind the reference point
 constexpr float kSpinStep = 30, kSpinEnd = 720, kSpinOver = 1080;  ///< degrees
-constexpr uint32_t kMillisecondsPerPicture = 85;
-constexpr int32_t kFirstBlankPicture = 15, kLastPicture = 16;
 constexpr float kExplosionSize = 0.06F;
 constexpr uint32_t kBlack = 0xFF000000;
 
@@ -59,27 +57,21 @@ void clsPlayer::LoadExplosion() {
 }
 
 void clsPlayer::draw() {
-  if (ExplodeStatus_) {
+  if (car_.Exploding) {
     DrawExplosion();
     return;
   }
-  Advance();
+  car_.Advance();
   PlaceCar();
   DrawBody();
   FollowWithCamera();
   Shadow.draw(GetPosition(), GetVelocity());
 }
 
-void clsPlayer::Advance() {
-  position_ = {ToSingle(double{position_.x} + velocity_.x),
-               ToSingle(double{position_.y} + velocity_.y),
-               ToSingle(double{position_.z} + velocity_.z)};
-}
-
 void clsPlayer::PlaceCar() {
   WorldMatrix_ = d3dx::Identity();
   TurnCar();
-  StepMatrix_ = Translation(position_);
+  StepMatrix_ = Translation(car_.position);
   WorldMatrix_ = d3dx::Multiply(WorldMatrix_, StepMatrix_);
   DirectX::D3DDevice->SetTransform(Transform::World, WorldMatrix_);
   DirectX::D3DDevice->SetVertexFormat(VertexFormat::World);
@@ -92,8 +84,8 @@ void clsPlayer::TurnCar() {
     WorldMatrix_ = d3dx::Multiply(WorldMatrix_, RotationMatrix_);
   };
   const KeyboardState& keys = DirectInput::KeyState;
-  if (OnIce_ && velocity_.x > 0 && keys[scancode::kRight] == 0) skid(-kSkid);
-  if (OnIce_ && velocity_.x < 0 && keys[scancode::kLeft] == 0) skid(kSkid);
+  if (car_.OnIce && car_.velocity.x > 0 && keys[scancode::kRight] == 0) skid(-kSkid);
+  if (car_.OnIce && car_.velocity.x < 0 && keys[scancode::kLeft] == 0) skid(kSkid);
   if (!Bouncing_) return;
   RotationMatrix_ = d3dx::RotationY(ToSingle(-SpinAngle_ * kRadiansPerDegree));
   WorldMatrix_ = d3dx::Multiply(Translation({0, 0, kBoxMiddle}), RotationMatrix_);
@@ -114,27 +106,23 @@ void clsPlayer::DrawBody() const {
 
 void clsPlayer::FollowWithCamera() const {
   using DirectX::CameraPosition, DirectX::CameraTarget;
-  CameraPosition.z = ToSingle(double{CameraPosition.z} + velocity_.z);
-  CameraTarget.z = ToSingle(double{CameraTarget.z} + velocity_.z);
+  CameraPosition.z = ToSingle(double{CameraPosition.z} + car_.velocity.z);
+  CameraTarget.z = ToSingle(double{CameraTarget.z} + car_.velocity.z);
   DirectX::MatView = d3dx::LookAtLH(CameraPosition, CameraTarget, {0, 1, 0});
   DirectX::D3DDevice->SetTransform(Transform::View, DirectX::MatView);
 }
 
 void clsPlayer::DrawExplosion() {
   SpinAngle_ = kSpinOver;
-  if (ExplosionFrame_ == kLastPicture) DeathStatus_ = true;
-  if (ticks::Between(LastFrameTick_, ticks::Count()) > kMillisecondsPerPicture) {
-    ++ExplosionFrame_;
-    LastFrameTick_ = ticks::Count();
-  }
-  if (ExplosionFrame_ >= kFirstBlankPicture) return;
+  car_.AdvanceExplosion(ticks::Count());
+  if (car_.ExplosionFrame >= Car::kFirstBlankPicture) return;
   Device& device = *DirectX::D3DDevice;
   device.SetPointSize(maths::FloatToLong(kExplosionSize));
   device.SetTransform(Transform::World, d3dx::Identity());
   device.SetVertexFormat(VertexFormat::Point);
   device.SetRenderState(RenderState::AlphaBlend, true);
   device.SetRenderState(RenderState::DepthWrite, false);
-  device.SetTexture(ExplosionTextures_[static_cast<size_t>(ExplosionFrame_ - 1)]);
+  device.SetTexture(ExplosionTextures_[static_cast<size_t>(car_.ExplosionFrame - 1)]);
   device.DrawPrimitiveUP(std::span(&SpriteVertex_, 1));
   device.SetRenderState(RenderState::DepthWrite, true);
 }

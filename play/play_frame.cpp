@@ -16,7 +16,6 @@
 namespace play {
 namespace {
 
-constexpr float kJump = 0.35F;
 constexpr std::array kJumpKeys = {scancode::kLeftShift, scancode::kLeftCtrl, scancode::kSpace,
                                   scancode::kRightShift, scancode::kRightCtrl};
 constexpr int kFramesPerPicture = 3;
@@ -49,20 +48,34 @@ void Start() {
   DirectX::ApplyCamera();
 }
 
-void PollCarKeys() {
+CarKeys HeldCarKeys() {
   using DirectInput::Held;
-  const KeyboardState& keys = DirectInput::KeyState;
-  const bool steering = keys[scancode::kRight] != 0 || keys[scancode::kLeft] != 0;
-  if (!steering && !Player.ISPlayerOnAnIceBlock()) Player.HorizontalVelocity(0);
-  if (Held(scancode::kUp)) Player.accelerate();
-  if (Held(scancode::kDown)) Player.deccelerate();
-  if (Held(scancode::kLeft)) Player.Moveleft();
-  if (Held(scancode::kRight)) Player.MoveRight();
-  const bool jump = std::ranges::any_of(kJumpKeys, Held);
-  if (jump && CollisionDetection::OnGround && !Player.getexplodeStatus()) {
-    Player.verticalvelocity(kJump);
-  }
+  int keys = 0;
+  const auto add = [&keys](bool held, CarKey key) {
+    if (held) keys |= key;
+  };
+  add(Held(scancode::kLeft), kLeftKey);
+  add(Held(scancode::kRight), kRightKey);
+  add(Held(scancode::kUp), kUpKey);
+  add(Held(scancode::kDown), kDownKey);
+  add(std::ranges::any_of(kJumpKeys, Held), kJumpKey);
+  return static_cast<CarKeys>(keys);
 }
+
+KeyboardState KeyboardWith(CarKeys keys) {
+  KeyboardState state{};
+  const auto press = [&](CarKey meaning, uint8_t code) {
+    if ((keys & meaning) != 0) state[code] = kKeyHeld;
+  };
+  press(kLeftKey, scancode::kLeft);
+  press(kRightKey, scancode::kRight);
+  press(kUpKey, scancode::kUp);
+  press(kDownKey, scancode::kDown);
+  press(kJumpKey, scancode::kSpace);
+  return state;
+}
+
+void PollCarKeys() { Player.Motion().Obey(HeldCarKeys(), CollisionDetection::OnGround); }
 
 void Update(const RestoreTrack& restoreTrack) {
   if (Player.DeathStatus() && !ResetAfterDeath(restoreTrack)) return;

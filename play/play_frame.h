@@ -5,6 +5,9 @@
 
 #include <functional>
 
+#include "platform/keyboard.h"
+#include "play/car.h"
+
 namespace play {
 
 /// Puts the track back as it was when play began; false when it could not and play has ended.
@@ -12,7 +15,11 @@ using RestoreTrack = std::function<bool()>;
 
 /// Enters play mode: car and camera at their start, no sparks.
 void Start();
-/// Sets the car's velocities from the held keys in DirectInput::KeyState.
+/// What the driver holds, in DirectInput::KeyState.
+CarKeys HeldCarKeys();
+/// The keyboard of somebody who holds these.
+KeyboardState KeyboardWith(CarKeys keys);
+/// Sets the car's velocities from the held keys.
 void PollCarKeys();
 /// Starts over after a finished run, then runs the game for one frame.
 void Update(const RestoreTrack& restoreTrack);

@@ -8,17 +8,17 @@ namespace {
 using DriveTest = PlayTest;
 
 TEST(DriveScript, HasCommentsAndBlankLinesAndNamesTheBadOne) {
-  const auto runs = track_tool::ParseScript("# a drive\n\n 30 up \r\n\t7 left+jump # hop\n5 -");
+  const auto runs = drive::ParseScript("# a drive\n\n 30 up \r\n\t7 left+jump # hop\n5 -");
   ASSERT_EQ(runs.size(), 3U);
   EXPECT_EQ(runs[1].frames, 7);
-  EXPECT_EQ(runs[1].held, (std::vector<uint8_t>{scancode::kLeft, scancode::kSpace}));
+  EXPECT_EQ(runs[1].keys, kLeftKey | kJumpKey);
   for (const std::string bad :
        {"up", "3", "3 up down", "x up", "3x up", "-3 up", "0 up", "1.5 up", "9999999999 up",
         "3 fly", "3 up+", "3 +up", "3 up++down", "3 Up", "3 -+up", "3 up + down"}) {
     try {
-      track_tool::ParseScript("1 up\n# fine\n" + bad + "\n");
+      drive::ParseScript("1 up\n# fine\n" + bad + "\n");
       ADD_FAILURE() << bad;
-    } catch (const track_tool::ScriptError& failure) {
+    } catch (const drive::ScriptError& failure) {
       EXPECT_TRUE(std::string(failure.what()).starts_with("line 3: ")) << bad;
     }
   }

@@ -6,17 +6,17 @@
 #include <string>
 #include <vector>
 
+#include "drive/key_script.h"
+#include "drive/object_drive.h"
 #include "play/CollisionDetection.h"
 #include "play/DirectInput.h"
 #include "play/clsPlayer.h"
 #include "render/frame/clsShadow.h"
 #include "tests/support/null_editor.h"
-#include "tools/vorbilax_track/drive_run.h"
-#include "tools/vorbilax_track/drive_script.h"
 
 class PlayTest : public DeviceTest {
  protected:
-  using Row = track_tool::DriveRow;
+  using Row = drive::Row;
 
   void SetUp() override {
     DeviceTest::SetUp();
@@ -84,8 +84,8 @@ class PlayTest : public DeviceTest {
   }
   std::vector<Row> Continue(const std::string& script) {
     std::vector<Row> rows;
-    for (const track_tool::KeyRun& run : track_tool::ParseScript(script)) {
-      for (int i = 0; i < run.frames; ++i) rows.push_back(drive_->Step(KeysOf(run)));
+    for (const drive::KeyRun& run : drive::ParseScript(script)) {
+      for (int i = 0; i < run.frames; ++i) rows.push_back(drive_->Step(run.keys));
     }
     return rows;
   }
@@ -115,7 +115,7 @@ class PlayTest : public DeviceTest {
     }
     return object;
   }
-  std::optional<track_tool::Drive> drive_;
+  std::optional<drive::ObjectDrive> drive_;
 };
 
 /// Frames from the start until the car's box stands on a floor at height 1.

@@ -38,14 +38,14 @@ class TrajectoryTest : public PlayTest {
   }
 
   /// Mostly forwards, with a taste for jumps.
-  static KeyboardState NextKeys(uint32_t& state) {
-    KeyboardState keys{};
-    for (const auto& [key, chance] : {std::pair{scancode::kUp, 190U},
-                                      {scancode::kDown, 40U},
-                                      {scancode::kLeft, 60U},
-                                      {scancode::kRight, 60U},
-                                      {scancode::kSpace, 90U}}) {
-      if (Random(state) < chance) keys[key] = kKeyHeld;
+  static CarKeys NextKeys(uint32_t& state) {
+    CarKeys keys = 0;
+    for (const auto& [key, chance] : {std::pair{kUpKey, 190U},
+                                      {kDownKey, 40U},
+                                      {kLeftKey, 60U},
+                                      {kRightKey, 60U},
+                                      {kJumpKey, 90U}}) {
+      if (Random(state) < chance) keys |= key;
     }
     return keys;
   }
@@ -53,18 +53,18 @@ class TrajectoryTest : public PlayTest {
 
 TEST_F(TrajectoryTest, IsTheSameEverywhere) {
   BuildTrack();
-  track_tool::Drive drive;
+  drive::ObjectDrive drive;
   uint32_t random = 1;
   uint64_t hash = 0xCBF29CE484222325U;
   std::set<std::string> events;
   float furthest = 0;
   for (int run = 0; run < 1500; ++run) {
-    const KeyboardState keys = NextKeys(random);
+    const CarKeys keys = NextKeys(random);
     for (uint32_t i = Random(random) % 16; i > 0; --i) {
       const Row row = drive.Step(keys);
       events.insert(row.event);
       furthest = std::max(furthest, row.z);
-      for (const char letter : track_tool::DriveLine(row)) {
+      for (const char letter : drive::RowLine(row)) {
         hash = (hash ^ static_cast<uint8_t>(letter)) * 0x100000001B3U;
       }
     }

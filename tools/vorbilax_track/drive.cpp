@@ -1,14 +1,14 @@
 #include <cstdio>
 #include <cstring>
 
+#include "drive/key_script.h"
+#include "drive/object_drive.h"
 #include "files/FileIO.h"
 #include "platform/paths.h"
 #include "platform/whole_file.h"
 #include "play/clsPlayer.h"
 #include "render/frame/clsShadow.h"
 #include "tools/vorbilax_track/commands.h"
-#include "tools/vorbilax_track/drive_run.h"
-#include "tools/vorbilax_track/drive_script.h"
 #include "tools/vorbilax_track/headless.h"
 
 namespace track_tool {
@@ -27,36 +27,33 @@ void LoadCar() {
 }
 
 /// Status of the first dead row, or of the whole script.
-int Run(const std::vector<KeyRun>& script, bool untilEnd) {
-  Drive drive;
-  std::puts(kDriveHeader);
-  for (const KeyRun& run : script) {
-    const KeyboardState keys = KeysOf(run);
-    for (int i = 0; i < run.frames; ++i) {
-      const DriveRow row = drive.Step(keys);
-      std::puts(DriveLine(row).c_str());
-      if (untilEnd && row.dead) return std::strcmp(row.event, "win") == 0 ? kFine : kNotWon;
-    }
+int Run(const drive::KeyScript& script, bool untilEnd) {
+  drive::ObjectDrive driving;
+  std::puts(drive::kRowHeader);
+  for (drive::KeyReader keys(script); !keys.AtEnd();) {
+    const drive::Row row = driving.Step(keys.Next());
+    std::puts(RowLine(row).c_str());
+    if (untilEnd && row.dead) return std::strcmp(row.event, "win") == 0 ? kFine : kNotWon;
   }
   return untilEnd ? kNotWon : kFine;
 }
 
 }  // namespace
 
-int DriveTrack(const std::string& file, const std::string& script, bool untilEnd) {
+int DriveTrack(const std::string& file, const std::string& scriptFile, bool untilEnd) {
   std::string text;
-  const std::string unreadable = ReadWholeFile(script, text);
-  if (!unreadable.empty()) return BadInput(script + ": " + unreadable);
+  const std::string unreadable = ReadWholeFile(scriptFile, text);
+  if (!unreadable.empty()) return BadInput(scriptFile + ": " + unreadable);
   try {
-    const std::vector<KeyRun> runs = ParseScript(text);
+    const drive::KeyScript script = drive::ParseScript(text);
     HeadlessEditor editor;
     if (!editor.Start()) return kBadInput;
     const FileIO::Result result = FileIO::ReadLevel(file);
     if (!result.Ok()) return BadInput(result.message);
     LoadCar();
-    return Run(runs, untilEnd);
-  } catch (const ScriptError& failure) {
-    return BadInput(script + ": " + failure.what());
+    return Run(script, untilEnd);
+  } catch (const drive::ScriptError& failure) {
+    return BadInput(scriptFile + ": " + failure.what());
   } catch (const std::exception& failure) {
     return BadInput(failure.what());
   }

@@ -1,4 +1,4 @@
-#include "tools/vorbilax_track/drive_run.h"
+#include "drive/object_drive.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +13,7 @@
 #include "render/device/DirectX.h"
 #include "render/frame/frame_steps.h"
 
-namespace track_tool {
+namespace drive {
 namespace {
 
 void Check(const FileIO::Result& result) {
@@ -33,7 +33,7 @@ int CollectedStars() {
       std::ranges::count_if(stars, [](const clsStar& star) { return !star.visible(); }));
 }
 
-DriveRow RowNow(int frame, const char* event) {
+Row RowNow(int frame, const char* event) {
   const Vector4 velocity = Player.GetVelocity();
   return {frame,
           Player.Posx(),
@@ -52,7 +52,7 @@ DriveRow RowNow(int frame, const char* event) {
 
 }  // namespace
 
-std::string DriveLine(const DriveRow& row) {
+std::string RowLine(const Row& row) {
   std::array<char, 256> line{};
   std::snprintf(line.data(), line.size(), "%d,%.9g,%.9g,%.9g,%.9g,%.9g,%.9g,%d,%d,%d,%d,%d,%s",
                 row.frame, double{row.x}, double{row.y}, double{row.z}, double{row.hv},
@@ -61,7 +61,7 @@ std::string DriveLine(const DriveRow& row) {
   return line.data();
 }
 
-Drive::Drive() {
+ObjectDrive::ObjectDrive() {
   // As in the editor, play starts from the track exactly as a file read produces it.
   Check(FileIO::LevelBytes(track_));
   RestoreTrack();
@@ -71,21 +71,23 @@ Drive::Drive() {
   play::Start();
 }
 
-Drive::~Drive() {
+ObjectDrive::~ObjectDrive() {
   Document.EditorMode = EditMode;
   DirectInput::KeyState = {};
   ticks::Use(nullptr);
 }
 
-void Drive::RestoreTrack() const { Check(FileIO::ReadLevelBytes(track_, "the track in memory")); }
+void ObjectDrive::RestoreTrack() const {
+  Check(FileIO::ReadLevelBytes(track_, "the track in memory"));
+}
 
-DriveRow Drive::Step(const KeyboardState& keys) {
+Row ObjectDrive::Step(CarKeys keys) {
   ++clock_.frame;
   // A finished run is reset before the game goes on.
   const bool wasExploding = Player.getexplodeStatus() && !Player.DeathStatus();
   const char* event = "";
-  RunFrame({[&keys] {
-              DirectInput::KeyState = keys;
+  RunFrame({[keys] {
+              DirectInput::KeyState = play::KeyboardWith(keys);
               play::PollCarKeys();
               DirectX::ApplyCamera();
             },
@@ -97,4 +99,4 @@ DriveRow Drive::Step(const KeyboardState& keys) {
   return RowNow(clock_.frame, event);
 }
 
-}  // namespace track_tool
+}  // namespace drive

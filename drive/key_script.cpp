@@ -1,22 +1,21 @@
-#include "tools/vorbilax_track/drive_script.h"
+#include "drive/key_script.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <optional>
+#include <numeric>
 #include <utility>
 
-namespace track_tool {
+namespace drive {
 namespace {
 
 constexpr int kMostFrames = 1'000'000;
 constexpr std::string_view kBlanks = " \t\r\f\v";
-constexpr std::array<std::pair<std::string_view, uint8_t>, 5> kKeys = {
-    {{"left", scancode::kLeft},
-     {"right", scancode::kRight},
-     {"up", scancode::kUp},
-     {"down", scancode::kDown},
-     {"jump", scancode::kSpace}}};
+constexpr std::array<std::pair<std::string_view, CarKey>, 5> kKeys = {{{"left", kLeftKey},
+                                                                       {"right", kRightKey},
+                                                                       {"up", kUpKey},
+                                                                       {"down", kDownKey},
+                                                                       {"jump", kJumpKey}}};
 
 /// Takes what stands before the separator off the text.
 std::string_view TakeUntil(std::string_view& text, char separator) {
@@ -46,9 +45,9 @@ int ParseCount(std::string_view word, int line) {
   return count;
 }
 
-std::vector<uint8_t> ParseKeys(std::string_view word, int line) {
-  std::vector<uint8_t> held;
-  if (word == "-") return held;
+CarKeys ParseKeys(std::string_view word, int line) {
+  CarKeys keys = 0;
+  if (word == "-") return keys;
   const std::string_view whole = word;
   for (bool more = true; more;) {
     more = word.find('+') != std::string_view::npos;
@@ -58,15 +57,15 @@ std::vector<uint8_t> ParseKeys(std::string_view word, int line) {
       throw ScriptError(line, "\"" + std::string(name) + "\" in \"" + std::string(whole) +
                                   "\" is no key; the keys are left, right, up, down, jump");
     }
-    held.push_back(key->second);
+    keys |= key->second;
   }
-  return held;
+  return keys;
 }
 
 }  // namespace
 
-std::vector<KeyRun> ParseScript(std::string_view text) {
-  std::vector<KeyRun> runs;
+KeyScript ParseScript(std::string_view text) {
+  KeyScript runs;
   for (int number = 1; !text.empty(); ++number) {
     std::string_view line = TakeUntil(text, '\n');
     const auto words = Words(TakeUntil(line, '#'));
@@ -77,10 +76,51 @@ std::vector<KeyRun> ParseScript(std::string_view text) {
   return runs;
 }
 
-KeyboardState KeysOf(const KeyRun& run) {
-  KeyboardState keys{};
-  for (const uint8_t code : run.held) keys[code] = kKeyHeld;
-  return keys;
+std::string ScriptText(const KeyScript& script) {
+  std::string text;
+  for (const KeyRun& run : script) {
+    std::string names;
+    for (const auto& [name, key] : kKeys) {
+      if ((run.keys & key) == 0) continue;
+      if (!names.empty()) names += '+';
+      names += name;
+    }
+    text.append(std::to_string(run.frames)).append(" ").append(names.empty() ? "-" : names);
+    text += '\n';
+  }
+  return text;
 }
 
-}  // namespace track_tool
+void AddFrame(KeyScript& script, CarKeys keys) {
+  if (script.empty() || script.back().keys != keys || script.back().frames == kMostFrames) {
+    script.push_back({0, keys});
+  }
+  ++script.back().frames;
+}
+
+int FrameCount(const KeyScript& script) {
+  const auto add = [](int sum, const KeyRun& run) { return sum + run.frames; };
+  return std::accumulate(script.begin(), script.end(), 0, add);
+}
+
+KeyScript Beginning(const KeyScript& script, int frames) {
+  KeyScript beginning;
+  for (const KeyRun& run : script) {
+    if (frames <= 0) break;
+    beginning.push_back({std::min(run.frames, frames), run.keys});
+    frames -= run.frames;
+  }
+  return beginning;
+}
+
+CarKeys KeyReader::Next() {
+  if (AtEnd()) return 0;
+  const KeyRun& run = (*script_)[run_];
+  if (++frame_ == run.frames) {
+    frame_ = 0;
+    ++run_;
+  }
+  return run.keys;
+}
+
+}  // namespace drive

@@ -5,12 +5,12 @@
 #include <string>
 
 #include "platform/clock.h"
-#include "platform/keyboard.h"
+#include "play/car.h"
 
-namespace track_tool {
+namespace drive {
 
 /// What one frame ended with, after the platforms moved.
-struct DriveRow {
+struct Row {
   int frame = 0;  ///< from 1
   float x = 0, y = 0, z = 0;
   float hv = 0, vv = 0, fv = 0;
@@ -19,23 +19,23 @@ struct DriveRow {
   const char* event = "";  ///< "win", "explode" or "fall" in the frame of it
 };
 
-inline constexpr const char* kDriveHeader =
+inline constexpr const char* kRowHeader =
     "frame,x,y,z,hv,vv,fv,on_ground,on_ice,exploding,dead,stars,event";
 /// The row as a line of the table, without line end.
-std::string DriveLine(const DriveRow& row);
+std::string RowLine(const Row& row);
 
 /// Enters play mode with the track in the document, on a started device, and leaves it when it goes
 /// out of scope. A frame takes 40 ms of its own clock.
-class Drive {
+class ObjectDrive {
  public:
   /// Throws std::runtime_error when the track cannot be entered.
-  Drive();
-  ~Drive();
-  Drive(const Drive&) = delete;
-  Drive& operator=(const Drive&) = delete;
+  ObjectDrive();
+  ~ObjectDrive();
+  ObjectDrive(const ObjectDrive&) = delete;
+  ObjectDrive& operator=(const ObjectDrive&) = delete;
 
   /// Runs one frame; after a dead row it starts over.
-  DriveRow Step(const KeyboardState& keys);
+  Row Step(CarKeys keys);
 
  private:
   class FrameClock : public Clock {
@@ -52,4 +52,4 @@ class Drive {
   std::string track_;
 };
 
-}  // namespace track_tool
+}  // namespace drive
