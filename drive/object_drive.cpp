@@ -1,8 +1,6 @@
 #include "drive/object_drive.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <stdexcept>
 
 #include "files/FileIO.h"
@@ -21,10 +19,12 @@ void Check(const FileIO::Result& result) {
 }
 
 /// How the run ended or came to its end in this update.
-const char* EventOf(bool wasExploding) {
+Ending EndingNow(bool wasExploding) {
   // Nothing but a fall or a win has set it before the car is drawn.
-  if (Player.DeathStatus()) return Player.PosY() < -40 ? "fall" : "win";
-  return Player.getexplodeStatus() && !wasExploding ? "explode" : "";
+  if (Player.DeathStatus()) {
+    return Player.Motion().FellOffTheTrack() ? Ending::Falls : Ending::Wins;
+  }
+  return Player.getexplodeStatus() && !wasExploding ? Ending::Explodes : Ending::None;
 }
 
 int CollectedStars() {
@@ -33,33 +33,7 @@ int CollectedStars() {
       std::ranges::count_if(stars, [](const clsStar& star) { return !star.visible(); }));
 }
 
-Row RowNow(int frame, const char* event) {
-  const Vector4 velocity = Player.GetVelocity();
-  return {frame,
-          Player.Posx(),
-          Player.PosY(),
-          Player.Posz(),
-          velocity.x,
-          velocity.y,
-          velocity.z,
-          CollisionDetection::OnGround,
-          Player.ISPlayerOnAnIceBlock(),
-          Player.getexplodeStatus(),
-          Player.DeathStatus(),
-          CollectedStars(),
-          event};
-}
-
 }  // namespace
-
-std::string RowLine(const Row& row) {
-  std::array<char, 256> line{};
-  std::snprintf(line.data(), line.size(), "%d,%.9g,%.9g,%.9g,%.9g,%.9g,%.9g,%d,%d,%d,%d,%d,%s",
-                row.frame, double{row.x}, double{row.y}, double{row.z}, double{row.hv},
-                double{row.vv}, double{row.fv}, row.onGround, row.onIce, row.exploding, row.dead,
-                row.stars, row.event);
-  return line.data();
-}
 
 ObjectDrive::ObjectDrive() {
   // As in the editor, play starts from the track exactly as a file read produces it.
@@ -69,6 +43,7 @@ ObjectDrive::ObjectDrive() {
   Document.EditorMode = PlayMode;
   Document.PlatformsPaused = false;
   play::Start();
+  Player.Motion().LastFrameTick = 0;  // this clock begins anew
 }
 
 ObjectDrive::~ObjectDrive() {
@@ -85,7 +60,7 @@ Row ObjectDrive::Step(CarKeys keys) {
   ++clock_.frame;
   // A finished run is reset before the game goes on.
   const bool wasExploding = Player.getexplodeStatus() && !Player.DeathStatus();
-  const char* event = "";
+  Ending ending = Ending::None;
   RunFrame({[keys] {
               DirectInput::KeyState = play::KeyboardWith(keys);
               play::PollCarKeys();
@@ -95,8 +70,9 @@ Row ObjectDrive::Step(CarKeys keys) {
               RestoreTrack();
               return true;
             },
-            [&] { event = EventOf(wasExploding); }});
-  return RowNow(clock_.frame, event);
+            [&] { ending = EndingNow(wasExploding); }});
+  return RowOf(Player.Motion(), clock_.frame, CollisionDetection::OnGround, CollectedStars(),
+               ending);
 }
 
 }  // namespace drive

@@ -4,25 +4,11 @@
 #include <cstdint>
 #include <string>
 
+#include "drive/drive_row.h"
 #include "platform/clock.h"
 #include "play/car.h"
 
 namespace drive {
-
-/// What one frame ended with, after the platforms moved.
-struct Row {
-  int frame = 0;  ///< from 1
-  float x = 0, y = 0, z = 0;
-  float hv = 0, vv = 0, fv = 0;
-  bool onGround = false, onIce = false, exploding = false, dead = false;
-  int stars = 0;           ///< collected so far
-  const char* event = "";  ///< "win", "explode" or "fall" in the frame of it
-};
-
-inline constexpr const char* kRowHeader =
-    "frame,x,y,z,hv,vv,fv,on_ground,on_ice,exploding,dead,stars,event";
-/// The row as a line of the table, without line end.
-std::string RowLine(const Row& row);
 
 /// Enters play mode with the track in the document, on a started device, and leaves it when it goes
 /// out of scope. A frame takes 40 ms of its own clock.

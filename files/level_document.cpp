@@ -245,7 +245,7 @@ LevelFile DescribeDocument() {
   DescribeAll(Live(Document.Ramps, Document.RampCount), level.Ramps,
               [&](const clsRamp& ramp) { return DescribeRamp(ramp, index); });
   DescribeAll(Live(Document.Stars, Document.StarCount), level.Stars, DescribeStar);
-  level.StoredGravity = ToSingle(Document.Gravity / 2.5 * 1000.0);
+  level.StoredGravity = StoredGravityOf(Document.Gravity);
   level.TrackSettings = Document.TrackSettings;
   return level;
 }

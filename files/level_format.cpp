@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "files/level_bytes.h"
+#include "platform/numbers.h"
 
 namespace {
 
@@ -164,6 +165,7 @@ void WriteTrackRecords(LevelBytesWriter& out, const TrackRecordsRecord& records)
 
 }  // namespace
 
+float StoredGravityOf(float gravity) { return ToSingle(gravity / 2.5 * 1000.0); }
 float GravityOf(float stored) { return static_cast<float>(stored / 1000.0 * 2.5); }
 
 LevelFile ParseLevel(std::string_view bytes) {

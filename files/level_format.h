@@ -47,8 +47,9 @@ struct LevelFile {
   TrackSettingsRecord TrackSettings;
 };
 
-/// The document's gravity for a stored one.
+/// The document's gravity for a stored one, and the other way round.
 float GravityOf(float stored);
+float StoredGravityOf(float gravity);
 
 /// The strongest gravity that is read, either way: what falls for hours still has a height whose
 /// square is a Single.

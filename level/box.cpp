@@ -53,6 +53,27 @@ std::array<Vector3, 3> PlanePoints(const Vector3& p, const Vector3& s, int plane
   }
 }
 
+/// Where a face looks.
+struct Facing {
+  float x, y, z;
+  CollisionPlane Through(const Vector3& p) const {
+    return {x, y, z, ToSingle(0.0 - (double{x} * p.x + double{y} * p.y + double{z} * p.z))};
+  }
+};
+constexpr std::array<Facing, kPlaneCount> kFacings = {
+    {{-1, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, -1}, {0, -1, 0}}};
+
+/// No side is so thin or so large, and the box not so inside out, that a face's normal would be
+/// another one than its facing, to the last bit. Most boxes of a track are ordinary and need no
+/// root.
+bool IsOrdinary(const Vector3& p, const Vector3& size) {
+  const auto ordinary = [](float low, float length) {
+    const double side = double{ToSingle(double{low} + length)} - low;
+    return side > 1e-15 && side < 1e15;
+  };
+  return ordinary(p.x, size.x) && ordinary(p.y, size.y) && ordinary(p.z, size.z);
+}
+
 }  // namespace
 
 Shape Unit() {
@@ -117,6 +138,9 @@ CollisionPlane Plane(const Vector3& position, const Vector3& size, int planenumb
     throw std::out_of_range("Subscript out of range");
   }
   const auto [p1, p2, p3] = PlanePoints(position, size, planenumber);
+  if (IsOrdinary(position, size)) {
+    return kFacings[static_cast<size_t>(planenumber - 1)].Through(p1);
+  }
   CollisionPlane plane;
   maths::PlaneFromPoints(plane, p1, p2, p3);
   return plane;

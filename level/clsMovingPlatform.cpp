@@ -1,7 +1,5 @@
 #include "level/clsMovingPlatform.h"
 
-#include "platform/numbers.h"
-
 const BoxObject::Kind clsMovingPlatform::kKind = {
     {box::kSideColour, box::kSideColour}, {box::kTopColour, box::kTopColour}, false};
 
@@ -32,41 +30,19 @@ void clsMovingPlatform::Texture(const std::string& Name, const std::string& face
   LoadTexture(Name, face, TextureDir);
 }
 
-int clsMovingPlatform::Heading() const { return Mdir_ == Left ? -1 : Mdir_ == Right ? 1 : 0; }
-
-clsMovingPlatform::Step clsMovingPlatform::NextStep() const {
-  const int heading = Heading();
-  const double length = heading * (Mspeed_ / 100.0);
-  const float limit = ToSingle(double{StartPos_.x} + heading * Mdist_);
-  const float next = ToSingle(Position().x + length);
-  return {length, next, ToSingle(RoundTo3(limit)), heading < 0 ? next >= limit : next <= limit};
-}
-
 void clsMovingPlatform::move() {
-  ChangedDir_ = false;
-  Vector3 place = Position();
-  if (Moving_ && Heading() != 0) {
-    const Step step = NextStep();
-    if (step.inside) {
-      place.x = ToSingle(RoundTo3(step.next));
-    } else if (MloopBack()) {
-      ChangedDir_ = true;
-      place.x = StartPos_.x = step.limit;
-      Mdir_ = Mdir_ == Left ? Right : Left;
-    } else {
-      place.x = StartPos_.x;
-    }
-  }
-  Move(place);
+  PlatformLeg leg = Leg();
+  ChangedDir_ = Moving_ && leg.Advance(Travel());
+  Resume(leg);
 }
 
-Vector3 clsMovingPlatform::GetVelocity() const {
-  if (Heading() == 0) return {};
-  const Step step = NextStep();
-  if (step.inside) return {ToSingle(step.length), 0, 0};
-  // The rest of the way to the end; a jump back to the start carries nobody.
-  return MloopBack() ? Vector3{ToSingle(double{step.limit} - Position().x), 0, 0} : Vector3{};
+void clsMovingPlatform::Resume(const PlatformLeg& leg) {
+  StartPos_.x = leg.startX;
+  Mdir_ = leg.direction;
+  Move({leg.x, Position().y, Position().z});
 }
+
+Vector3 clsMovingPlatform::GetVelocity() const { return {Leg().Velocity(Travel()), 0, 0}; }
 
 void clsMovingPlatform::StartAnimation() {
   InitialPos_ = StartPos_;

@@ -2,11 +2,12 @@
 #pragma once
 
 #include "level/box_object.h"
+#include "level/platform_motion.h"
 
 class clsMovingPlatform : public BoxObject {
  public:
   /// Directions of travel; any other value does not move.
-  enum : uint8_t { Left = 2, Right = 3 };
+  enum : uint8_t { Left = PlatformLeg::Left, Right = PlatformLeg::Right };
 
   clsMovingPlatform() : BoxObject(kKind) {}
 
@@ -62,22 +63,16 @@ class clsMovingPlatform : public BoxObject {
   void RestartLeg();
   /// Freezes it until the next create.
   void stopMoving() { Moving_ = false; }
+  PlatformTravel Travel() const { return {Mspeed_, Mdist_, MloopBack()}; }
+  PlatformLeg Leg() const { return {Position().x, StartPos_.x, Mdir_}; }
+  /// Puts it on this place of its way, planes and all.
+  void Resume(const PlatformLeg& leg);
 
  private:
   static const Kind kKind;
 
   /// Sets one coordinate of the place, of the leg's start and of the initial place.
   void Set(float Vector3::*coordinate, float value);
-  /// −1 to the left, +1 to the right, 0 for any other direction.
-  int Heading() const;
-  /// Where the next step leads, before it turns round or jumps back at the end of the travel.
-  struct Step {
-    double length;
-    float next, limit;
-    bool inside;  ///< next does not pass the limit
-  };
-  Step NextStep() const;
-
   uint8_t Mspeed_ = 0;
   uint8_t Mdir_ = 0;
   uint8_t Mdist_ = 0;

@@ -61,14 +61,6 @@ void clsRamp::rotate() {
   CalculateCollisionPlanes();
 }
 
-float clsRamp::GetGradient() const {
-  const bool alongZ = rotateVal_ == 0 || rotateVal_ == 2;
-  const double length = alongZ ? size_.z : size_.x;
-  if (length == 0) return 0;
-  const double gradient = size_.y / length;
-  return ToSingle(rotateVal_ < 2 ? gradient : -gradient);
-}
-
 void clsRamp::Texture(const std::string& Name, const std::string& face,
                       const std::string& TextureDir) {
   const int index = box::FaceIndex(face);

@@ -40,7 +40,7 @@ class clsRamp {
   void rotate();
   /// Rise along the slope's axis, negative where it rises towards the lower coordinate; 0 for a
   /// ramp without length.
-  float GetGradient() const;
+  float GetGradient() const { return ramp::Gradient(rotateVal_, size_); }
 
   /// Face "A" is the slope, "B" sides and riser; any other letter does nothing. Throws
   /// PlatformError, leaving the face as it was, when the file cannot be loaded.

@@ -59,33 +59,14 @@ void clsblock::UpdateAnimatedTexture(AnimatedTextures::Pictures& pictures) {
   }
 }
 
-void clsblock::Bounce() {
-  Bouncing_ = true;
-  BouncePhase_ = -1.0F;
-  BounceBase_ = Position().y;
-}
-
 void clsblock::draw() {
   DrawBox();
-  if (Falling_) AdvanceFall();
-  if (Bouncing_) AdvanceBounce();
-}
-
-void clsblock::AdvanceFall() {
-  fallvel_ = ToSingle(double{fallvel_} + Track().Gravity);
+  if (!motion_.Moves()) return;
   const Vector3& at = Position();
-  Move({at.x, ToSingle(double{at.y} - fallvel_), at.z});
+  Move({at.x, motion_.Advance(at.y, Track().Gravity), at.z});
 }
 
-void clsblock::AdvanceBounce() {
-  const Vector3 at = Position();
-  float y = ToSingle(double{BounceBase_} + 1 - double{BouncePhase_} * BouncePhase_);
-  fallvel_ = ToSingle(double{at.y} - y);
-  if (BouncePhase_ >= 1.1F) {
-    Bouncing_ = false;
-    y = BounceBase_;
-    fallvel_ = 0;
-  }
-  Move({at.x, y, at.z});
-  BouncePhase_ = ToSingle(BouncePhase_ + 0.1);
+void clsblock::Resume(float y, const BlockMotion& motion) {
+  motion_ = motion;
+  Move({Position().x, y, Position().z});
 }

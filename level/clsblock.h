@@ -2,6 +2,7 @@
 #pragma once
 
 #include "level/AnimatedTextures.h"
+#include "level/block_motion.h"
 #include "level/box_object.h"
 
 class clsblock : public BoxObject {
@@ -36,7 +37,7 @@ class clsblock : public BoxObject {
   void Zpos(int32_t NewVal);
 
   /// Downward displacement of the last frame of a fall or bounce.
-  float fallvel() const { return fallvel_; }
+  float fallvel() const { return motion_.fallvel; }
 
   /// As BoxObject's; a picture of the animated texture begins to move in play.
   void Picture(size_t face, const FacePicturePtr& picture);
@@ -52,22 +53,18 @@ class clsblock : public BoxObject {
   void UpdateAnimatedTexture(AnimatedTextures::Pictures& pictures);
 
   /// Starts the jump pad's bounce: 22 frames up by 1 and back.
-  void Bounce();
+  void Bounce() { motion_.Bounce(Position().y); }
   /// Starts a fall that never ends.
-  void Fall() { Falling_ = true; }
+  void Fall() { motion_.Falling = true; }
   /// Draws the block, then advances fall and bounce by one frame.
   void draw();
+  /// The state of its fall or bounce; putting one in place of it puts the block where it was then.
+  const BlockMotion& Motion() const { return motion_; }
+  void Resume(float y, const BlockMotion& motion);
 
  private:
   static const Kind kKind;
 
-  void AdvanceFall();
-  void AdvanceBounce();
-
   uint8_t AnimatedFaces_ = 0;  ///< a bit for each
-  bool Falling_ = false;
-  bool Bouncing_ = false;
-  float BouncePhase_ = 0;
-  float BounceBase_ = 0;
-  float fallvel_ = 0;
+  BlockMotion motion_;
 };

@@ -5,6 +5,7 @@
 #include <bit>
 #include <cmath>
 
+#include "level/projected_quad.h"
 #include "platform/d3dx_maths.h"
 #include "platform/numbers.h"
 #include "render/device/DirectX.h"
@@ -12,70 +13,10 @@
 namespace maths {
 namespace {
 
-struct Vector2 {
-  float u = 0, v = 0;
-  bool operator==(const Vector2&) const = default;
-};
-
-Vector2 Subtract(const Vector2& a, const Vector2& b) {
-  return {ToSingle(double{a.u} - b.u), ToSingle(double{a.v} - b.v)};
-}
-
-/// Which coordinate a quad's test drops.
-enum class Drop { X, Y, Z };
-
-Drop ChooseProjection(const Vector3& normal) {
-  float ax = std::abs(normal.x);
-  float ay = std::abs(normal.y);
-  const float az = std::abs(normal.z);
-  if (ax == ay || ax == az) ax = 0;
-  if (ay == az) ay = 0;
-  if (ax > ay && ax > az) return Drop::X;
-  return ay <= ax ? Drop::Z : Drop::Y;
-}
-
-Vector2 Project(const Vector3& point, Drop drop) {
-  switch (drop) {
-    case Drop::X:
-      return {point.z, point.y};
-    case Drop::Z:
-      return {point.x, point.y};
-    case Drop::Y:
-      break;
-  }
-  return {point.x, point.z};
-}
-
-/// Side of p against the edge from c along e: positive inside.
-double SideOf(const Vector2& e, const Vector2& c, const Vector2& p) {
-  const Vector2 w = Subtract(c, p);
-  return double{w.u} * -e.v + double{w.v} * e.u;
-}
-
 int Sign(double value) { return (value > 0) - (value < 0); }
 
 double PlaneDot(const CollisionPlane& plane, const Vector3& v, double w) {
   return double{plane.a} * v.x + double{plane.b} * v.y + double{plane.c} * v.z + plane.d * w;
-}
-
-/// On which side of all edges of the projected quad p lies: 1 inside, −1 outside, 0 of not all.
-int SideOfEdges(const std::array<Vector3, 4>& quad, const Vector3& p) {
-  Vector3 normal;
-  FaceNormal(quad[0], quad[1], quad[2], normal);
-  const Drop drop = ChooseProjection(normal);
-  const Vector2 point = Project(p, drop);
-  std::array<Vector2, 4> corners;
-  std::ranges::transform(quad, corners.begin(),
-                         [drop](const Vector3& corner) { return Project(corner, drop); });
-  const size_t edges = corners[3] == corners[0] ? 3 : 4;
-  int common = 0;
-  for (size_t i = 0; i < edges; ++i) {
-    const Vector2 edge = Subtract(corners[(i + 1) % edges], corners[i]);
-    const int side = Sign(SideOf(edge, corners[i], point));
-    if (side == 0 || (i > 0 && side != common)) return 0;
-    common = side;
-  }
-  return common;
 }
 
 }  // namespace
@@ -149,12 +90,12 @@ int32_t FloatToLong(float f) { return std::bit_cast<int32_t>(f); }
 
 bool PointInQuad(const Vector3& c1, const Vector3& c2, const Vector3& c3, const Vector3& c4,
                  const Vector3& p) {
-  return SideOfEdges({c1, c2, c3, c4}, p) == 1;
+  return ProjectedQuad({c1, c2, c3, c4}).SideOfEdges(p) == 1;
 }
 
 bool PointInQuadEitherWay(const Vector3& c1, const Vector3& c2, const Vector3& c3,
                           const Vector3& c4, const Vector3& p) {
-  return SideOfEdges({c1, c2, c3, c4}, p) != 0;
+  return ProjectedQuad({c1, c2, c3, c4}).SideOfEdges(p) != 0;
 }
 
 }  // namespace maths

@@ -188,6 +188,13 @@ Vertices MakeVertices(const Shape& shape) {
   return vertices;
 }
 
+float Gradient(uint8_t rotation, const Vector3& size) {
+  const double length = rotation % 2 == 0 ? size.z : size.x;
+  if (length == 0) return 0;
+  const double gradient = size.y / length;
+  return ToSingle(rotation < 2 ? gradient : -gradient);
+}
+
 CollisionPlane Plane(uint8_t rotation, const Vector3& position, const Vector3& size,
                      int planenumber) {
   const Vector3 high = CornerAt(position, size, {1, 1, 1});

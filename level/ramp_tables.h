@@ -30,6 +30,10 @@ struct Shape {
 /// The unit wedge; textures repeat once per world unit, so the coordinates carry the sizes.
 Vertices MakeVertices(const Shape& shape);
 
+/// Rise along the slope's axis, negative where it rises towards the lower coordinate; 0 for a ramp
+/// without length.
+float Gradient(uint8_t rotation, const Vector3& size);
+
 /// Plane 1 to 6: sides at low and high x, slope, side at low z, bottom, and the horizontal plane of
 /// the high edge. A side that the rotation lacks is all zero.
 CollisionPlane Plane(uint8_t rotation, const Vector3& position, const Vector3& size,
