@@ -12,6 +12,7 @@ void RecordFigures(BenchEditor& editor, const Report& report);
 void DocumentFigures(BenchEditor& editor, const Report& report);
 void PickFigures(BenchEditor& editor, const Report& report);
 void PlayFigures(BenchEditor& editor, const Report& report);
+void DriveFigures(BenchEditor& editor, const Report& report);
 void MemoryFigures(BenchEditor& editor, const Report& report);
 
 /// How the time grows with the count, from 1,000 to kManyPieces: 1 for in proportion.

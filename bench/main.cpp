@@ -33,8 +33,9 @@ int WriteCorridor(const std::string& path) {
 
 int Measure(const bench::Report& report) {
   bench::BenchEditor editor;
-  for (const auto group : {bench::FrameFigures, bench::RecordFigures, bench::DocumentFigures,
-                           bench::PickFigures, bench::PlayFigures, bench::MemoryFigures}) {
+  for (const auto group :
+       {bench::FrameFigures, bench::RecordFigures, bench::DocumentFigures, bench::PickFigures,
+        bench::PlayFigures, bench::DriveFigures, bench::MemoryFigures}) {
     group(editor, report);
   }
   return 0;

@@ -1,5 +1,6 @@
 // One frame of play on a frozen track.
 #include <algorithm>
+#include <cmath>
 
 #include "drive/frozen_track.h"
 #include "level/box.h"
@@ -80,8 +81,10 @@ class FrozenWorld {
                ? track_.Platforms()[Slot(face.ObjectIndex)].box.size
                : track_.Blocks()[Slot(face.ObjectIndex)].box.size;
   }
+  Extent AroundFace(const cd::TouchedFace& face) const;
   CollisionPlane PlaneOf(const cd::TouchedFace& face) const;
   std::array<Vector3, 4> CornersOf(const cd::TouchedFace& face) const;
+  bool OutOfTouch(const cd::TouchedFace& face, double objectStep) const;
   bool Meet(const cd::TouchedFace& face);
   void CollectStars();
 
@@ -90,6 +93,41 @@ class FrozenWorld {
   bool kill_ = false, onRamp_ = false, leftContact_ = false, rightContact_ = false;
   StepEvents events_;
 };
+
+/// A box that holds the face.
+Extent FrozenWorld::AroundFace(const cd::TouchedFace& face) const {
+  if (face.ObjectType == cd::RampObject) {
+    // With the strip beyond the high edge.
+    constexpr float kStrip = 0.8F;
+    const Extent& box = track_.Ramps()[Slot(face.ObjectIndex)].box;
+    const auto wider = [](float low, float length, float& corner, float& size) {
+      corner = std::min(low, low + length) - kStrip;
+      size = std::abs(length) + 2 * kStrip;
+    };
+    Extent around = box;
+    wider(box.corner.x, box.size.x, around.corner.x, around.size.x);
+    wider(box.corner.z, box.size.z, around.corner.z, around.size.z);
+    return around;
+  }
+  Extent around{PlaceOf(face), SizeOf(face)};
+  const auto flatten = [&](float Vector3::*axis, bool atEnd) {
+    if (atEnd) around.corner.*axis += around.size.*axis;
+    around.size.*axis = 0;
+  };
+  switch (face.PlaneNumber) {
+    case 1:
+    case 2:
+      flatten(&Vector3::x, face.PlaneNumber == 2);
+      break;
+    case 3:
+    case 5:
+      flatten(&Vector3::y, face.PlaneNumber == 3);
+      break;
+    default:
+      flatten(&Vector3::z, false);
+  }
+  return around;
+}
 
 CollisionPlane FrozenWorld::PlaneOf(const cd::TouchedFace& face) const {
   if (face.ObjectType == cd::RampObject) {
@@ -110,9 +148,29 @@ std::array<Vector3, 4> FrozenWorld::CornersOf(const cd::TouchedFace& face) const
   return box::FaceCorners(PlaceOf(face), SizeOf(face), face.PlaneNumber);
 }
 
+/// Whether the car's box does not come near the face in its step: no point of it can touch it then.
+/// Most faces end here, before anything is worked out about them.
+bool FrozenWorld::OutOfTouch(const cd::TouchedFace& face, double objectStep) const {
+  const Vector3 &car = state_.car.position, &way = state_.car.velocity;
+  const Extent at = AroundFace(face);
+  // The car's span along an axis, how it moves, and the face's span.
+  const auto apart = [](double low, double high, double move, double corner, double length) {
+    const double end = corner + length;
+    // More than rounding costs.
+    const double slack = 0.01 + 1e-5 * (std::abs(corner) + std::abs(length) + std::abs(move));
+    return high + std::max(move, 0.0) < std::min(corner, end) - slack ||
+           low + std::min(move, 0.0) > std::max(corner, end) + slack;
+  };
+  constexpr double kLength = Car::kEdge, kHalf = kLength / 2;
+  return apart(car.z - kLength, car.z, way.z, at.corner.z, at.size.z) ||
+         apart(car.y, car.y + kLength, way.y, at.corner.y, at.size.y) ||
+         apart(car.x - kHalf, car.x + kHalf, way.x - objectStep, at.corner.x, at.size.x);
+}
+
 /// False when the run is over.
 bool FrozenWorld::Meet(const cd::TouchedFace& face) {
   const float step = face.ObjectType == cd::PlatformObject ? PlatformStep(face.ObjectIndex) : 0.0F;
+  if (OutOfTouch(face, step)) return true;
   cd::SweepState sweep;
   if (!cd::SweepBox(sweep, state_.car, PlaneOf(face), step)) return true;
   cd::Contacts contacts;
