@@ -83,11 +83,11 @@ void BoxObject::RefreshVertexBuffer() {
   if (look_->kind->planesFollowBuffer) CalculateCollisionPlanes();
 }
 
-void BoxObject::DrawBox() {
+void BoxObject::DrawBoxAt(const Vector3& position) {
   Device& device = *DirectX::D3DDevice;
-  if (!device.MaySee(position_, size_)) return;
+  if (!device.MaySee(position, size_)) return;
   device.SetVertexFormat(VertexFormat::World);
-  box::PlaceInWorld(position_, size_);
+  box::PlaceInWorld(position, size_);
   Look& look = *look_;
   // A fresh object has no geometry yet.
   if (!box::IsVisible(look.shape)) return;

@@ -93,8 +93,9 @@ class BoxObject {
 
   void StartGeometry();
   void RefreshVertexBuffer();
-  /// Draws the box unless the camera cannot see it.
-  void DrawBox();
+  /// Draws the box, as if it stood at `position`, unless the camera cannot see it there.
+  void DrawBoxAt(const Vector3& position);
+  void DrawBox() { DrawBoxAt(position_); }
   /// Loads a face's texture; returns the face's index, −1 (nothing done) for another letter.
   int LoadTexture(const std::string& Name, const std::string& face, const std::string& TextureDir);
 

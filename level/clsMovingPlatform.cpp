@@ -1,5 +1,9 @@
 #include "level/clsMovingPlatform.h"
 
+#include <algorithm>
+
+#include "platform/numbers.h"
+
 const BoxObject::Kind clsMovingPlatform::kKind = {
     {box::kSideColour, box::kSideColour}, {box::kTopColour, box::kTopColour}, false};
 
@@ -28,6 +32,21 @@ void clsMovingPlatform::Zpos(float NewVal) {
 void clsMovingPlatform::Texture(const std::string& Name, const std::string& face,
                                 const std::string& TextureDir) {
   LoadTexture(Name, face, TextureDir);
+}
+
+void clsMovingPlatform::DrawAt(float x) {
+  Vector3 place = Position();
+  place.x = x;
+  DrawBoxAt(place);
+}
+
+Extent clsMovingPlatform::Reach() const {
+  constexpr double kFarthest = 255;
+  const auto [least, most] = std::minmax(Position().x, InitialPos_.x);
+  Extent reach = Drawn();
+  reach.corner.x = ToSingle(least - kFarthest);
+  reach.size.x = ToSingle(double{most} - least + 2 * kFarthest + reach.size.x);
+  return reach;
 }
 
 void clsMovingPlatform::move() {

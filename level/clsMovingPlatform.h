@@ -46,6 +46,10 @@ class clsMovingPlatform : public BoxObject {
   /// As a block's; a platform's faces are never animated.
   void Texture(const std::string& Name, const std::string& face, const std::string& TextureDir);
   void draw() { DrawBox(); }
+  /// Draws it as if it stood at `x`; it stays where it is.
+  void DrawAt(float x);
+  /// The box around every place that its travel can take it to.
+  Extent Reach() const;
 
   /// One step of motion.
   void move();

@@ -1,7 +1,6 @@
 #include "render/frame/frame_steps.h"
 
 #include "level/globals.h"
-#include "render/frame/RenderFrame.h"
 
 void RunFrame(const FrameSteps& steps) {
   steps.poll();
@@ -9,7 +8,7 @@ void RunFrame(const FrameSteps& steps) {
     play::Update(steps.restoreTrack);
     if (steps.updated) steps.updated();
   }
-  RenderFrame();
+  RenderFrame(steps.additions);
   if (!Document.PlatformsPaused) MovePlatforms();
 }
 

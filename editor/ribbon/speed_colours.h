@@ -1,0 +1,42 @@
+// The colours of a ribbon: how fast the car went, by families that tell drives apart.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace ribbon {
+
+/// Colours by speed, slowest first; between two stops they flow.
+struct Palette {
+  struct Stop {
+    double speed;     ///< world units per frame
+    uint32_t colour;  ///< 0xRRGGBB
+  };
+  std::array<Stop, 6> stops;
+};
+
+/// The user's own drive: blue, cyan, green, yellow at the car's top speed, red-orange beyond it.
+inline constexpr Palette kOwnDrive = {{{{0.0, 0x2340C8},
+                                        {0.18, 0x1AA7EC},
+                                        {0.36, 0x22C55E},
+                                        {0.56, 0xC8E31C},
+                                        {0.66, 0xFFD21F},
+                                        {1.0, 0xFF4A1C}}}};
+/// A drive that was found: violet, magenta, pink, nearly white.
+inline constexpr Palette kFoundDrive = {{{{0.0, 0x5B21B6},
+                                          {0.18, 0x8B2BE2},
+                                          {0.36, 0xC026D3},
+                                          {0.56, 0xEE3FC0},
+                                          {0.66, 0xFF79CF},
+                                          {1.0, 0xFFE3F6}}}};
+
+/// 0xRRGGBB.
+uint32_t SpeedColour(const Palette& palette, double speed);
+/// From colour `a` (0) to colour `b` (1), each channel for itself.
+uint32_t MixColours(uint32_t a, uint32_t b, double share);
+/// The colour with an alpha from 0 to 255.
+constexpr uint32_t WithAlpha(uint32_t colour, uint32_t alpha) {
+  return (colour & 0xFFFFFFU) | alpha << 24;
+}
+
+}  // namespace ribbon
