@@ -53,7 +53,7 @@ std::array<Vector3, 3> PlanePoints(const Vector3& p, const Vector3& s, int plane
   }
 }
 
-/// Where a face looks.
+/// Where a face looks, to the sign of its zeros.
 struct Facing {
   float x, y, z;
   CollisionPlane Through(const Vector3& p) const {
@@ -61,7 +61,7 @@ struct Facing {
   }
 };
 constexpr std::array<Facing, kPlaneCount> kFacings = {
-    {{-1, 0, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, -1}, {0, -1, 0}}};
+    {{-1, -0.0F, 0}, {1, 0, 0}, {-0.0F, 1, 0}, {0, 0, -1}, {0, -1, 0}}};
 
 /// No side is so thin or so large, and the box not so inside out, that a face's normal would be
 /// another one than its facing, to the last bit. Most boxes of a track are ordinary and need no

@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
-#include "level/maths.h"
+#include "platform/d3dx_maths.h"
 
 namespace maths {
 namespace {
 
 Vector3 NormalOf(const std::array<Vector3, 4>& quad) {
-  Vector3 normal;
-  FaceNormal(quad[0], quad[1], quad[2], normal);
-  return normal;
+  return d3dx::Normalize(
+      d3dx::Cross(d3dx::Subtract(quad[1], quad[0]), d3dx::Subtract(quad[2], quad[0])));
 }
 
 }  // namespace
