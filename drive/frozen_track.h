@@ -22,7 +22,7 @@ struct FrozenBlock {
 
 struct FrozenPlatform {
   Extent box;  ///< at its start
-  mutable PlatformWay way;
+  mutable PlatformWay way;  ///< works itself out
 };
 
 struct FrozenRamp {

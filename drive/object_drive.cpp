@@ -18,15 +18,6 @@ void Check(const FileIO::Result& result) {
   if (!result.Ok()) throw std::runtime_error(result.message);
 }
 
-/// How the run ended or came to its end in this update.
-Ending EndingNow(bool wasExploding) {
-  // Nothing but a fall or a win has set it before the car is drawn.
-  if (Player.DeathStatus()) {
-    return Player.Motion().FellOffTheTrack() ? Ending::Falls : Ending::Wins;
-  }
-  return Player.getexplodeStatus() && !wasExploding ? Ending::Explodes : Ending::None;
-}
-
 int CollectedStars() {
   const auto stars = Live(Document.Stars, Document.StarCount);
   return static_cast<int>(
@@ -34,6 +25,14 @@ int CollectedStars() {
 }
 
 }  // namespace
+
+Ending EndingNow(bool wasExploding) {
+  // Nothing but a fall or a win has set it before the car is drawn.
+  if (Player.DeathStatus()) {
+    return Player.Motion().FellOffTheTrack() ? Ending::Falls : Ending::Wins;
+  }
+  return Player.getexplodeStatus() && !wasExploding ? Ending::Explodes : Ending::None;
+}
 
 ObjectDrive::ObjectDrive() {
   // As in the editor, play starts from the track exactly as a file read produces it.

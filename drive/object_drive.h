@@ -10,6 +10,10 @@
 
 namespace drive {
 
+/// How the car's run came to its end in the game's update that has just been made; `wasExploding`
+/// tells whether it exploded before.
+Ending EndingNow(bool wasExploding);
+
 /// Enters play mode with the track in the document, on a started device, and leaves it when it goes
 /// out of scope. A frame takes 40 ms of its own clock.
 class ObjectDrive {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "editor/drives/drives.h"
 #include "editor/frmAbout.h"
 #include "editor/main_controls.h"
 #include "editor/safety/safety_copies.h"
@@ -86,9 +87,11 @@ class frmMain {
   void ReturnToEditing(const FileIO::Result& restored);
   void CheckMode(int32_t mode);
   void ClearSelection();
+  void NextTrack();
 
   Services services_;
   TemporaryTrack temporaryTrack_;
+  drives::Drives drives_{controls, [this] { mnu_playmode_Click(); }};
   safety::SafetyCopies copies_;
   bool Running_ = false;
   bool KeyReleased_ = false;  ///< a key came up since the last command that runs once per press

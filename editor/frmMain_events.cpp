@@ -70,7 +70,11 @@ void frmMain::ConnectEvents() {
   c.frmMain.onKeyDown = [this](int16_t& key, int shift) { Form_KeyDown(key, shift); };
   c.frmMain.onKeyUp = [this](int16_t key, int) { Form_KeyUp(key); };
   c.VScroll1.onChange = [this] { VScroll1_Change(); };
-  c.viewport.onMouseDown = picking::MouseDown;
+  c.viewport.onMouseDown = [this](int button, int shift, float x, float y) {
+    picking::MouseDown(button, shift, x, y);
+    // Pieces go first.
+    if (!Document.ObjectSelected && button == 1) drives_.Click(x, y);
+  };
   c.viewport.onMouseDrag = drag::Move;
   c.viewport.onMouseUp = drag::Release;
   c.viewport.onWheel = wheel::Turn;

@@ -26,16 +26,23 @@ void frmMain::StartPlay() {
   ClearSelection();
   Document.PlatformsPaused = false;
   play::Start();
+  drives_.seat.TakeStart();
 }
 
 void frmMain::mnu_editmode_Click() {
-  if (Document.EditorMode == PlayMode) ReturnToEditing(temporaryTrack_.Leave());
+  if (Document.EditorMode != PlayMode) return;
+  drives_.seat.Leave();
+  ReturnToEditing(temporaryTrack_.Leave());
 }
 
 bool frmMain::RestartTrack() {
   const FileIO::Result result = temporaryTrack_.Restart();
-  if (!result.Ok()) ReturnToEditing(result);
-  return result.Ok();
+  if (!result.Ok()) {
+    ReturnToEditing(result);
+    return false;
+  }
+  drives_.seat.TrackRestored();
+  return true;
 }
 
 void frmMain::ReturnToEditing(const FileIO::Result& restored) {

@@ -61,7 +61,18 @@ void frmMain::NewTrack() {
   CheckBackdrop();
   controls.VScroll1.Value(controls.VScroll1.Maximum());
   selection::ShowProperties();
-  if (Document.EditorMode == EditMode && !isNew) history::steps.Replaced(std::move(replaced));
+  if (Document.EditorMode == PlayMode) {
+    drives_.seat.Abandon();
+    return;
+  }
+  NextTrack();
+  if (!isNew) history::steps.Replaced(std::move(replaced));
+}
+
+/// Drives on the track that stood here belong to it alone.
+void frmMain::NextTrack() {
+  static uint32_t tracks = 0;
+  Document.TrackNumber = ++tracks;
 }
 
 FileIO::Result frmMain::EditedTrack(std::string& bytes) const {
@@ -82,13 +93,18 @@ FileIO::Outcome frmMain::mnu_load_Click() {
   copies_.CopyNow();
   const history::Command command("Open Track");
   const bool played = Document.EditorMode == PlayMode;
+  if (played) drives_.seat.Leave();
   KeptTrack replaced;
   const FileIO::Outcome outcome = FileIO::OpenTrackDialog(&replaced);
   Document.EditorMode = EditMode;
   CheckMode(EditMode);
   // After a failed read the view stays where it was.
   if (outcome != FileIO::Outcome::Failed) DirectX::ResetCamera();
-  if (outcome == FileIO::Outcome::Done) ClearSelection();
+  if (outcome == FileIO::Outcome::Done) {
+    ClearSelection();
+    NextTrack();
+    drives_.memory.LookBeside(Document.CurrentFileName);
+  }
   CheckGravity(Document.Gravity == kNormalGravity);
   // Play is left without a restore: what was edited is the step's other side.
   std::optional<KeptTrack> edited = temporaryTrack_.Forget();

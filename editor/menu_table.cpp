@@ -58,6 +58,13 @@ const MenuRow kMenus[] = {
     {&M::mnu_normal, "mnu_normal", "Normal", "F11", &M::mnu_Gravity, true},
     {&M::mnu_low, "mnu_low", "Low", "F12", &M::mnu_Gravity, true},
 
+    {&M::mnu_drive, "mnu_drive", "Drive", "", nullptr},
+    {&M::mnu_showdrive, "mnu_showdrive", "Show Drive", "F6", &M::mnu_drive, true},
+    {&M::mnu_drivefromhere, "mnu_drivefromhere", "Drive From Here", "F7", &M::mnu_drive},
+    {&M::mnu_watchdrive, "mnu_watchdrive", "Watch Drive", "F9", &M::mnu_drive},
+    {&M::mnu_savedrive, "mnu_savedrive", "Save Drive", "", &M::mnu_drive},
+    {&M::mnu_bestwin, "mnu_bestwin", "Best Win", "", &M::mnu_drive, true},
+
     {&M::mnu_help, "mnu_help", "Help", "", nullptr},
     {&M::mnu_about, "mnu_about", "About", "Ctrl+A", &M::mnu_help},
     {&M::mnu_Shortcut, "mnu_Shortcut", "How to Use", "F1", &M::mnu_help},

@@ -164,12 +164,13 @@ std::string Replace(const std::string& target, const fs::path& folder, std::stri
 
 }  // namespace
 
-Written WriteFileSafely(const std::string& path, std::string_view bytes) {
+Written WriteFileSafely(const std::string& path, std::string_view bytes, OldRest oldRest) {
   std::string reason;
   const std::string target = FollowLinks(path, reason);
   if (!reason.empty()) return {reason, {}};
-  const std::optional<OldFile> old = LookAtOldFile(target, bytes.size(), reason);
+  std::optional<OldFile> old = LookAtOldFile(target, bytes.size(), reason);
   if (!reason.empty()) return {reason, {}};
+  if (old && oldRest == OldRest::Dropped) old->longer = false;
 
   const fs::path parent = fs::path(target).parent_path();
   const fs::path folder = parent.empty() ? fs::path(".") : parent;

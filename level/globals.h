@@ -82,6 +82,7 @@ struct LevelDocument : TrackValues, PieceCollections {
   ClipboardRecord Clipboard;
   std::string CurrentFileName;
   std::string Origin;  ///< the file that the track was last read from or saved to; empty: a new one
+  uint32_t TrackNumber = 0;  ///< which track of this run it is; play and saving leave it as it is
 
   // Working state of the level file code.
   std::vector<std::string> TextureNames;

@@ -10,7 +10,8 @@ KeptTrack TakeTrack() {
           Document.BackgroundName,
           Document.TrackSettings,
           Document.TrackRecords,
-          Document.Origin};
+          Document.Origin,
+          Document.TrackNumber};
 }
 
 void PutTrack(KeptTrack&& track) {
@@ -20,5 +21,6 @@ void PutTrack(KeptTrack&& track) {
   Document.TrackSettings = std::move(track.TrackSettings);
   Document.TrackRecords = track.TrackRecords;
   Document.Origin = std::move(track.Origin);
+  Document.TrackNumber = track.TrackNumber;
   ShowBackdrop(Document.BackgroundName.Trimmed());
 }

@@ -11,6 +11,7 @@ struct KeptTrack {
   TrackSettingsRecord TrackSettings;
   TrackRecordsRecord TrackRecords;
   std::string Origin;
+  uint32_t TrackNumber = 0;
 };
 
 /// Takes the document's track out; what stays has no pieces.
