@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -40,6 +41,10 @@ class MeshObject {
   int32_t MaterialCount() const { return static_cast<int32_t>(materials_.size()); }
   const std::vector<MeshMaterial>& Materials() const { return materials_; }
   size_t TriangleCount(int32_t subset) const;
+  /// Three vertices per triangle.
+  std::span<const Vertex> Triangles(int32_t subset) const {
+    return buffers_.at(static_cast<size_t>(subset))->Vertices<Vertex>();
+  }
   /// Corners of the box around all vertices and the origin.
   const Vector3& Smallest() const { return smallest_; }
   const Vector3& Greatest() const { return greatest_; }

@@ -8,6 +8,7 @@
 
 #include "platform/d3dx.h"
 #include "play/car.h"
+#include "play/ghost_car.h"
 #include "render/device/clsParticles.h"
 
 class clsPlayer {
@@ -52,6 +53,9 @@ class clsPlayer {
   /// Moves the car by one step, draws it, moves the camera along and draws the shadow; while it
   /// explodes, shows the explosion and in the end sets DeathStatus.
   void draw();
+  /// Draws a translucent picture of the car with its reference point at a place, and nothing else:
+  /// the car and the device's states stay as they are.
+  void DrawGhost(const Vector3& at) const;
 
   Vector3 GetPosition() const { return car_.position; }
   Vector4 GetVelocity() const { return {car_.velocity.x, car_.velocity.y, car_.velocity.z, 0}; }
@@ -78,6 +82,7 @@ class clsPlayer {
   float SpinAngle_ = 0;  ///< degrees
   std::array<Vector3, 8> CollisionPoints_{};
   d3dx::MeshPtr Mesh_;
+  GhostCar Ghost_;
   int32_t MaterialCount_ = 0;
   std::vector<Material> Materials_;
   std::vector<TexturePtr> MeshTextures_;

@@ -41,6 +41,7 @@ void clsPlayer::load(const std::string& modelFile) {
   }
   // Kept only when all of it is there: a car that could not be loaded is not drawn.
   Mesh_ = mesh;
+  Ghost_ = GhostCar(*mesh);
   MaterialCount_ = mesh->MaterialCount();
   Materials_ = std::move(materials);
   MeshTextures_ = std::move(textures);
@@ -67,6 +68,8 @@ void clsPlayer::draw() {
   FollowWithCamera();
   Shadow.draw(GetPosition(), GetVelocity());
 }
+
+void clsPlayer::DrawGhost(const Vector3& at) const { Ghost_.Draw(at); }
 
 void clsPlayer::PlaceCar() {
   WorldMatrix_ = d3dx::Identity();

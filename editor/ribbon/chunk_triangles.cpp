@@ -1,5 +1,7 @@
 #include "editor/ribbon/chunk_triangles.h"
 
+#include <cmath>
+
 #include "editor/ribbon/mark_shapes.h"
 #include "platform/d3dx_maths.h"
 
@@ -12,7 +14,6 @@ using Path = std::span<const drive::PathPoint>;
 constexpr double kHalf = 0.25, kCore = 0.18;  ///< the ribbon with and without its dark edges
 constexpr double kThinHalf = 0.1, kThinCore = 0.055;
 constexpr double kTick = 0.33, kTickLength = 0.14, kTickEdge = 0.06;
-constexpr double kOnePlace = 0.7;  ///< marks nearer than this stand together
 
 constexpr uint32_t kEdge = 0xC00C121C;
 constexpr uint32_t kTickColour = 0xFFFFFFFF;
@@ -42,26 +43,29 @@ void AddTick(Path path, size_t index, Triangles& strip) {
   AddBar(at, kTick, kTickLength, kTickColour, strip);
 }
 
-/// The marks of the points from `first` up to `end`; those at about one place stand together.
+/// Whether marks at two places would cover each other; distances in pixels of the usual view.
+bool OverlapOnScreen(const Vector3& a, const Vector3& b) {
+  constexpr double kX = 22.5, kY = 12.5, kZ = 11.8, kApart = 13;
+  const Vector3 way = d3dx::Subtract(b, a);
+  return std::abs(way.x * kX) < kApart && std::abs(way.y * kY + way.z * kZ) < kApart;
+}
+
+/// The marks of the points from `first` up to `end`, the last ones first: those ahead stand behind.
 void AddGroupedMarks(Path path, size_t first, size_t end, Triangles& triangles) {
-  size_t anchor = end;
-  uint8_t marks = 0;
+  struct Group {
+    Vector3 place;
+    uint8_t marks;
+  };
+  std::vector<Group> groups;
   for (size_t i = first; i < end; ++i) {
-    if (path[i].marks == 0 || !IsSomewhere(path[i])) continue;
-    if (anchor < end) {
-      const Vector3 apart = d3dx::Subtract(path[i].place, path[anchor].place);
-      if (d3dx::Dot(apart, apart) > kOnePlace * kOnePlace) {
-        AddMarks(MiddleAt(path[anchor]), marks, triangles);
-        anchor = end;
-      }
-    }
-    if (anchor == end) {
-      anchor = i;
-      marks = 0;
-    }
-    marks |= path[i].marks;
+    const drive::PathPoint& point = path[i];
+    if (point.marks == 0 || !IsSomewhere(point)) continue;
+    if (groups.empty() || !OverlapOnScreen(groups.back().place, MiddleAt(point)))
+      groups.push_back({MiddleAt(point), 0});
+    groups.back().marks |= point.marks;
   }
-  if (anchor < end) AddMarks(MiddleAt(path[anchor]), marks, triangles);
+  for (auto group = groups.rbegin(); group != groups.rend(); ++group)
+    AddMarks(group->place, group->marks, triangles);
 }
 
 Triangles Faded(Triangles triangles, uint32_t alpha) {

@@ -62,14 +62,12 @@ void ChunkedLine::Measure(Chunk& chunk, size_t index) const {
     most = {std::max(most.x, at.x), std::max(most.y, at.y), std::max(most.z, at.z)};
     marked = marked || points_[i].marks != 0;
   }
-  const bool stands = palette_ != nullptr && marked;
-  const double aside = stands ? double{kMarkReach.x} : kStripReach;
-  const double above = stands ? double{kMarkReach.y} : kStripReach;
-  chunk.corner = {ToSingle(least.x - aside), ToSingle(least.y - kStripReach),
-                  ToSingle(least.z - kStripReach)};
-  chunk.size = {ToSingle(double{most.x} - least.x + 2 * aside),
-                ToSingle(double{most.y} - least.y + kStripReach + above),
-                ToSingle(double{most.z} - least.z + 2 * kStripReach)};
+  const double reach =
+      palette_ != nullptr && marked ? std::max(kMarkReach, kStripReach) : kStripReach;
+  chunk.corner = {ToSingle(least.x - reach), ToSingle(least.y - reach), ToSingle(least.z - reach)};
+  chunk.size = {ToSingle(double{most.x} - least.x + 2 * reach),
+                ToSingle(double{most.y} - least.y + 2 * reach),
+                ToSingle(double{most.z} - least.z + 2 * reach)};
 }
 
 void ChunkedLine::Make(Device& device, Chunk& chunk, size_t index) const {
@@ -85,16 +83,18 @@ void ChunkedLine::Make(Device& device, Chunk& chunk, size_t index) const {
   if (!all.empty()) chunk.buffer = device.CreateVertexBuffer(all);
 }
 
-void ChunkedLine::FindSeen(Device& device, const Matrix4& world) {
+void ChunkedLine::FindSeen(Device& device, std::span<const Matrix4> worlds) {
   seen_.clear();
   seen_.reserve(chunks_.size());
   for (size_t i = 0; i < chunks_.size(); ++i) {
     Chunk& chunk = chunks_[i];
     if (!std::exchange(chunk.measured, true)) Measure(chunk, i);
-    if (chunk.empty) continue;
-    Vector3 corner;
-    maths::TransformCoord(corner, chunk.corner, world);
-    if (!device.MaySee(corner, chunk.size)) continue;
+    const auto seenIn = [&](const Matrix4& world) {
+      Vector3 corner;
+      maths::TransformCoord(corner, chunk.corner, world);
+      return device.MaySee(corner, chunk.size);
+    };
+    if (chunk.empty || std::ranges::none_of(worlds, seenIn)) continue;
     if (!std::exchange(chunk.made, true)) Make(device, chunk, i);
     seen_.push_back(&chunk);
   }

@@ -24,9 +24,9 @@ class ChunkedLine {
   void Follow(std::span<const drive::PathPoint> path);
   const drive::Path& Points() const { return points_; }
 
-  /// Collects the pieces that may be seen under the device's present camera; `world` must only
-  /// shift and shrink.
-  void FindSeen(Device& device, const Matrix4& world);
+  /// Collects the pieces that may be seen under the device's present camera in any of the worlds,
+  /// which must only shift and shrink.
+  void FindSeen(Device& device, std::span<const Matrix4> worlds);
   /// Records that part of the pieces found, marks from the end of the path to its beginning: those
   /// ahead stand behind.
   void Draw(Device& device, Part part) const;

@@ -5,13 +5,14 @@
 #include <cmath>
 #include <numbers>
 
-#include "platform/numbers.h"
-
 namespace ribbon {
 namespace {
 
 // Shapes are drawn in pixels of the view from its usual distance, x to the right, y upwards.
-constexpr double kPixelsPerUnitX = 22.5, kPixelsPerUnitY = 12.5;
+constexpr double kPixelsPerUnitX = 22.5, kPixelsPerUnitY = 17.2;
+/// Upwards in the picture of the camera, which is never turned: boards lie in its plane, since
+/// upright ones would look slanted beside the middle.
+constexpr Vector3 kUpwards = {0, 0.727F, 0.687F};
 constexpr double kOutline = 1.7;            ///< width
 constexpr double kStem = 5.5, kPitch = 17;  ///< below a row of pictures; from one to the next
 constexpr size_t kPerRow = 4;
@@ -115,13 +116,9 @@ class Board {
 
  private:
   Vertex Corner(const Dot2& dot, uint32_t colour) const {
-    return {ToSingle(place_.x + dot.x / kPixelsPerUnitX),
-            ToSingle(place_.y + dot.y / kPixelsPerUnitY),
-            place_.z,
-            colour,
-            0,
-            0,
-            0};
+    const Vector3 at = Beside(Beside(place_, {1, 0, 0}, dot.x / kPixelsPerUnitX), kUpwards,
+                              dot.y / kPixelsPerUnitY);
+    return {at.x, at.y, at.z, colour, 0, 0, 0};
   }
 
   Vector3 place_;

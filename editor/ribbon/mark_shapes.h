@@ -1,4 +1,4 @@
-// Small upright pictures that tell what happens on a path, readable on every ground.
+// Small pictures that tell what happens on a path, readable on every ground.
 #pragma once
 
 #include <cstdint>
@@ -7,11 +7,11 @@
 
 namespace ribbon {
 
-/// How far marks reach from the middle of the strip, world units.
-inline constexpr Vector3 kMarkReach = {2.2F, 3.4F, 0.0F};
+/// How far marks reach sideways, upwards and forwards from the middle of the strip, world units.
+inline constexpr double kMarkReach = 2.2;
 
-/// Adds the pictures of all bits of drive::Mark in `marks`, side by side above a place. They stand
-/// upright, facing against the z axis.
+/// Adds the pictures of all bits of drive::Mark in `marks`, side by side above a place, facing
+/// the camera.
 void AddMarks(const Vector3& place, uint8_t marks, Triangles& triangles);
 
 }  // namespace ribbon

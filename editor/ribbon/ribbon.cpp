@@ -1,5 +1,7 @@
 #include "editor/ribbon/ribbon.h"
 
+#include <array>
+
 #include "editor/ribbon/path_picking.h"
 #include "platform/numbers.h"
 #include "render/device/DirectX.h"
@@ -9,18 +11,19 @@ namespace ribbon {
 namespace {
 
 constexpr double kPickReach = 7;  ///< pixels
-/// The share of its distance by which everything comes nearer to the eye. It stays where it is in
-/// the picture, but lies above the ground even where the depth buffer is coarse.
-constexpr double kPull = 0.003;
+/// The share of their distance by which strips and marks come nearer to the eye. Their place in
+/// the picture stays, but strips lie above the ground even where the depth buffer is coarse, and
+/// marks do not sink into the wall that the car has met.
+constexpr double kPullStrip = 0.003, kPullMark = 0.05;
 
 /// Shrinks the world towards the eye.
-Matrix4 PullToEye(const Matrix4& view) {
+Matrix4 PulledToEye(const Matrix4& view, double share) {
   Matrix4 world;
   for (size_t axis = 0; axis < 3; ++axis) {
     double eye = 0;
     for (size_t k = 0; k < 3; ++k) eye -= double{view.m[3][k]} * view.m[axis][k];
-    world.m[axis][axis] = ToSingle(1 - kPull);
-    world.m[3][axis] = ToSingle(eye * kPull);
+    world.m[axis][axis] = ToSingle(1 - share);
+    world.m[3][axis] = ToSingle(eye * share);
   }
   world.m[3][3] = 1;
   return world;
@@ -43,12 +46,12 @@ void Ribbon::Hide() {
 void Ribbon::Draw() {
   if (!shown_) return;
   Device& device = *DirectX::D3DDevice;
-  const Matrix4 world = PullToEye(device.GetTransform(Transform::View));
-  oldRest_.FindSeen(device, world);
-  path_.FindSeen(device, world);
+  const Matrix4& view = device.GetTransform(Transform::View);
+  const std::array worlds = {PulledToEye(view, kPullStrip), PulledToEye(view, kPullMark)};
+  oldRest_.FindSeen(device, worlds);
+  path_.FindSeen(device, worlds);
 
   const KeptStates kept(device);
-  device.SetTransform(Transform::World, world);
   device.SetVertexFormat(VertexFormat::World);
   device.SetTexture(nullptr);
   device.SetRenderState(RenderState::AlphaBlend, true);
@@ -56,14 +59,14 @@ void Ribbon::Draw() {
   device.SetBlend(BlendState::Destination, Blend::InverseSourceAlpha);
   device.SetRenderState(RenderState::DepthWrite, false);
   // What pieces hide is faint, not gone.
-  device.SetRenderState(RenderState::DepthTest, false);
-  oldRest_.Draw(device, Part::FaintStrip);
-  path_.Draw(device, Part::FaintStrip);
-  path_.Draw(device, Part::FaintMarks);
-  device.SetRenderState(RenderState::DepthTest, true);
-  oldRest_.Draw(device, Part::Strip);
-  path_.Draw(device, Part::Strip);
-  path_.Draw(device, Part::Marks);
+  for (const bool hidden : {true, false}) {
+    device.SetRenderState(RenderState::DepthTest, !hidden);
+    device.SetTransform(Transform::World, worlds[0]);
+    oldRest_.Draw(device, hidden ? Part::FaintStrip : Part::Strip);
+    path_.Draw(device, hidden ? Part::FaintStrip : Part::Strip);
+    device.SetTransform(Transform::World, worlds[1]);
+    path_.Draw(device, hidden ? Part::FaintMarks : Part::Marks);
+  }
 }
 
 std::optional<size_t> Ribbon::PointAt(float x, float y) const {

@@ -17,18 +17,18 @@ struct Palette {
 
 /// The user's own drive: blue, cyan, green, yellow at the car's top speed, red-orange beyond it.
 inline constexpr Palette kOwnDrive = {{{{0.0, 0x2340C8},
-                                        {0.18, 0x1AA7EC},
-                                        {0.36, 0x22C55E},
-                                        {0.56, 0xC8E31C},
-                                        {0.66, 0xFFD21F},
-                                        {1.0, 0xFF4A1C}}}};
+                                        {0.16, 0x14A5F0},
+                                        {0.32, 0x1FC776},
+                                        {0.46, 0x86DC22},
+                                        {0.6, 0xFFE22E},
+                                        {1.0, 0xFF3F1A}}}};
 /// A drive that was found: violet, magenta, pink, nearly white.
 inline constexpr Palette kFoundDrive = {{{{0.0, 0x5B21B6},
-                                          {0.18, 0x8B2BE2},
-                                          {0.36, 0xC026D3},
-                                          {0.56, 0xEE3FC0},
-                                          {0.66, 0xFF79CF},
-                                          {1.0, 0xFFE3F6}}}};
+                                          {0.16, 0x8127E0},
+                                          {0.32, 0xB026E0},
+                                          {0.46, 0xE030D0},
+                                          {0.6, 0xFF6AD0},
+                                          {1.0, 0xFFE6F7}}}};
 
 /// 0xRRGGBB.
 uint32_t SpeedColour(const Palette& palette, double speed);
