@@ -98,14 +98,14 @@ void frmMain::Pass() {
 void frmMain::Frame() {
   LastFrameCount_ = services_.clock.Counter();
   try {
-    drives_.Update();
+    drives.Update();
     RunFrame({[this] { ProcessKeyboard(); },
               [this] { return RestartTrack(); },
-              [this] { drives_.seat.Updated(); },
-              drives_.Additions()});
-    if (Document.EditorMode == PlayMode) drives_.seat.FrameEnds();
+              [this] { drives.seat.Updated(); },
+              drives.Additions()});
+    if (Document.EditorMode == PlayMode) drives.seat.FrameEnds();
   } catch (const std::exception& failure) {
-    drives_.seat.Abandon();
+    drives.seat.Abandon();
     // A frame fails 25 times a second; the user is told once.
     if (lastFrameFailure_ != failure.what()) {
       lastFrameFailure_ = failure.what();
@@ -124,7 +124,7 @@ void frmMain::ProcessKeyboard() {
   if (Document.EditorMode == EditMode) {
     MoveCameraByKeys();
   } else {
-    drives_.seat.Poll();
+    drives.seat.Poll();
   }
   DirectX::ApplyCamera();
 }

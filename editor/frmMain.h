@@ -48,6 +48,7 @@ class frmMain {
 
   MainControls controls;
   frmAbout about;
+  drives::Drives drives{controls, [this] { mnu_playmode_Click(); }};
 
  private:
   // frmMain.cpp
@@ -91,7 +92,6 @@ class frmMain {
 
   Services services_;
   TemporaryTrack temporaryTrack_;
-  drives::Drives drives_{controls, [this] { mnu_playmode_Click(); }};
   safety::SafetyCopies copies_;
   bool Running_ = false;
   bool KeyReleased_ = false;  ///< a key came up since the last command that runs once per press

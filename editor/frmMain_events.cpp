@@ -73,7 +73,7 @@ void frmMain::ConnectEvents() {
   c.viewport.onMouseDown = [this](int button, int shift, float x, float y) {
     picking::MouseDown(button, shift, x, y);
     // Pieces go first.
-    if (!Document.ObjectSelected && button == 1) drives_.Click(x, y);
+    if (!Document.ObjectSelected && button == 1) drives.Click(x, y);
   };
   c.viewport.onMouseDrag = drag::Move;
   c.viewport.onMouseUp = drag::Release;

@@ -26,12 +26,12 @@ void frmMain::StartPlay() {
   ClearSelection();
   Document.PlatformsPaused = false;
   play::Start();
-  drives_.seat.TakeStart();
+  drives.seat.TakeStart();
 }
 
 void frmMain::mnu_editmode_Click() {
   if (Document.EditorMode != PlayMode) return;
-  drives_.seat.Leave();
+  drives.seat.Leave();
   ReturnToEditing(temporaryTrack_.Leave());
 }
 
@@ -41,7 +41,7 @@ bool frmMain::RestartTrack() {
     ReturnToEditing(result);
     return false;
   }
-  drives_.seat.TrackRestored();
+  drives.seat.TrackRestored();
   return true;
 }
 

@@ -62,7 +62,7 @@ void frmMain::NewTrack() {
   controls.VScroll1.Value(controls.VScroll1.Maximum());
   selection::ShowProperties();
   if (Document.EditorMode == PlayMode) {
-    drives_.seat.Abandon();
+    drives.seat.Abandon();
     return;
   }
   NextTrack();
@@ -93,7 +93,7 @@ FileIO::Outcome frmMain::mnu_load_Click() {
   copies_.CopyNow();
   const history::Command command("Open Track");
   const bool played = Document.EditorMode == PlayMode;
-  if (played) drives_.seat.Leave();
+  if (played) drives.seat.Leave();
   KeptTrack replaced;
   const FileIO::Outcome outcome = FileIO::OpenTrackDialog(&replaced);
   Document.EditorMode = EditMode;
@@ -103,7 +103,7 @@ FileIO::Outcome frmMain::mnu_load_Click() {
   if (outcome == FileIO::Outcome::Done) {
     ClearSelection();
     NextTrack();
-    drives_.memory.LookBeside(Document.CurrentFileName);
+    drives.memory.LookBeside(Document.CurrentFileName);
   }
   CheckGravity(Document.Gravity == kNormalGravity);
   // Play is left without a restore: what was edited is the step's other side.

@@ -42,7 +42,8 @@ const Attempt* Drives::Chosen() {
 uint64_t Drives::Version() const {
   constexpr uint64_t kPrime = 0x100000001B3U;
   const uint64_t best = controls_.mnu_bestwin.Checked() ? 1 : 2;
-  return ((history::steps.State() * kPrime + Document.TrackNumber) * kPrime + memory.Changes()) * 3 +
+  return ((history::steps.State() * kPrime + Document.TrackNumber) * kPrime + memory.Changes()) *
+             3 +
          best;
 }
 

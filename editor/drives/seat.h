@@ -1,5 +1,5 @@
-// The driver's seat of play mode: whose keys the car obeys, where a run begins, and the recording of
-// each attempt.
+// The driver's seat of play mode: whose keys the car obeys, where a run begins, and the recording
+// of each attempt.
 #pragma once
 
 #include <functional>
@@ -54,8 +54,8 @@ class Seat {
   CarKeys keys_ = 0;  ///< of this frame
   bool recording_ = false;
   bool wasExploding_ = false;
-  bool driven_ = false;      ///< the user has touched a key in this attempt
-  bool keptOne_ = false;     ///< since play mode was entered
+  bool driven_ = false;   ///< the user has touched a key in this attempt
+  bool keptOne_ = false;  ///< since play mode was entered
 };
 
 }  // namespace drives

@@ -57,8 +57,8 @@ void ShownDrive::Finish() { run_->Advance(std::numeric_limits<int>::max()); }
 
 std::span<const drive::PathPoint> ShownDrive::OldRest() const {
   const drive::Path &now = Path(), &then = attempt_.path;
-  const auto [left, from] = std::ranges::mismatch(now, then, {}, &drive::PathPoint::place,
-                                                  &drive::PathPoint::place);
+  const auto [left, from] =
+      std::ranges::mismatch(now, then, {}, &drive::PathPoint::place, &drive::PathPoint::place);
   // A path that is still being worked out departs from nothing.
   if (from == then.end() || (left == now.end() && !run_->IsOver())) return {};
   const auto first = from == then.begin() ? from : from - 1;
@@ -90,8 +90,8 @@ int ShownDrive::FrameNear(float depth) const {
 
 bool ShownDrive::Passes(float depth) const {
   constexpr float kBeyond = 2;
-  const auto [first, last] = std::ranges::minmax(
-      Path(), {}, [](const drive::PathPoint& point) { return point.place.z; });
+  const auto [first, last] =
+      std::ranges::minmax(Path(), {}, [](const drive::PathPoint& point) { return point.place.z; });
   return first.place.z - kBeyond <= depth && depth <= last.place.z + kBeyond;
 }
 

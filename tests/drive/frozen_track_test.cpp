@@ -8,6 +8,7 @@
 #include "drive/object_drive.h"
 #include "tests/drive/random_track.h"
 #include "tests/drive/seeds.h"
+#include "tests/play/play_test.h"
 
 namespace {
 

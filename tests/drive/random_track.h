@@ -4,7 +4,8 @@
 
 #include <random>
 
-#include "tests/play/play_test.h"
+#include "play/car.h"
+#include "tests/support/null_editor.h"
 
 class RandomTrack {
  public:

@@ -54,7 +54,9 @@ TEST(MainControls, StandAtTheirPlacesWithTheirFirstValues) {
   for (const MenuItem* menu : controls.frmMain.menus) {
     const std::string& name = menu->Caption();
     for (const MenuItem* item : menu->items) {
-      EXPECT_EQ(item->checkable, name == "Mode" || name == "Background" || name == "Gravity");
+      const bool checkable = name == "Mode" || name == "Background" || name == "Gravity" ||
+                             item == &controls.mnu_showdrive || item == &controls.mnu_bestwin;
+      EXPECT_EQ(item->checkable, checkable) << item->name;
     }
   }
 }
