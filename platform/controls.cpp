@@ -117,6 +117,13 @@ void PictureArea::Pointer(PointerShape shape) {
   Changed();
 }
 
+void PictureArea::Notes(std::vector<std::string> notes) {
+  // Said anew in every frame, they seldom change.
+  if (notes == notes_) return;
+  notes_ = std::move(notes);
+  Changed();
+}
+
 void PictureArea::UserDrags(int shift, float x, float y) const {
   if (onMouseDrag) dialogs::Enter([&] { onMouseDrag(shift, x, y); });
 }

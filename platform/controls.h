@@ -174,6 +174,9 @@ class PictureArea : public Control {
   /// What the mouse pointer looks like over the picture.
   PointerShape Pointer() const { return pointer_; }
   void Pointer(PointerShape shape);
+  /// Lines of text over the picture's lower left corner.
+  const std::vector<std::string>& Notes() const { return notes_; }
+  void Notes(std::vector<std::string> notes);
   void UserPresses(int button, int shift, float x, float y) const;
   void UserDrags(int shift, float x, float y) const;
   void UserReleases() const;
@@ -181,6 +184,7 @@ class PictureArea : public Control {
 
  private:
   PointerShape pointer_ = PointerShape::Arrow;
+  std::vector<std::string> notes_;
 };
 
 class MenuItem : public Captioned {
