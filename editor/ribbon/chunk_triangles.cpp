@@ -10,36 +10,46 @@ namespace {
 
 using Path = std::span<const drive::PathPoint>;
 
-// World units.
-constexpr double kHalf = 0.25, kCore = 0.18;  ///< the ribbon with and without its dark edges
-constexpr double kThinHalf = 0.1, kThinCore = 0.055;
-constexpr double kTick = 0.33, kTickLength = 0.14, kTickEdge = 0.06;
+/// A coloured lane between two dark ones, which set it off from every ground.
+struct Look {
+  double half, core;  ///< from the middle to the edge and to the dark lane, world units
+  uint32_t alpha;     ///< of the coloured lane
+  uint32_t edge;      ///< colour of the dark ones
+};
+constexpr Look kRibbon = {0.25, 0.18, 0xF4, 0xC00C121C};
+constexpr Look kFaintRibbon = {0.25, 0.18, 0x58, 0x500C121C};
+constexpr Look kThinLine = {0.1, 0.055, 0xB0, 0xA00C121C};
+constexpr Look kFaintLine = {0.1, 0.055, 0x48, 0x380C121C};
+constexpr std::array<uint32_t, 2> kGrey = {0xC3CAD3, 0xC3CAD3};
 
-constexpr uint32_t kEdge = 0xC00C121C;
-constexpr uint32_t kTickColour = 0xFFFFFFFF;
-constexpr uint32_t kGrey = 0x9AA3AE;
-constexpr uint32_t kNearlyFull = 0xF4, kFaint = 0x48, kFaintMark = 0x50, kThinAlpha = 0xB0;
+constexpr double kTick = 0.33, kTickLength = 0.14, kTickEdge = 0.06;  ///< world units
+constexpr uint32_t kTickColour = 0xFFFFFFFF, kTickEdgeColour = 0xC00C121C;
+constexpr uint32_t kFaintMark = 0x50;
 
-/// A dark lane on both sides of the coloured one.
-void AddEdges(const Section& from, const Section& to, Seen seen, double half, double core,
-              Triangles& strip) {
-  AddLane(from, to, seen, {{-half, {kEdge, kEdge}}, {-core, {kEdge, kEdge}}}, strip);
-  AddLane(from, to, seen, {{core, {kEdge, kEdge}}, {half, {kEdge, kEdge}}}, strip);
+/// A piece of strip; `flow` are its colours where it begins and ends.
+void AddPiece(const Section& from, const Section& to, const Look& look,
+              const std::array<uint32_t, 2>& flow, Triangles& strip) {
+  const Seen seen = SideSeen(from, to);
+  const std::array dark = {look.edge, look.edge};
+  const std::array coloured = {WithAlpha(flow[0], look.alpha), WithAlpha(flow[1], look.alpha)};
+  AddLane(from, to, seen, {{-look.half, dark}, {-look.core, dark}}, strip);
+  AddLane(from, to, seen, {{look.core, dark}, {look.half, dark}}, strip);
+  AddLane(from, to, seen, {{-look.core, coloured}, {look.core, coloured}}, strip);
 }
 
-/// Calls with both ends of every piece of strip, and which side of it is seen.
+/// Calls with both ends of every piece of strip.
 template <typename Add>
 void ForEachPiece(const std::vector<Section>& sections, Add add) {
   for (size_t i = 1; i < sections.size(); ++i) {
     const Section &from = sections[i - 1], &to = sections[i];
-    if (to.joined) add(from, to, SideSeen(from, to));
+    if (to.joined) add(from, to);
   }
 }
 
 void AddTick(Path path, size_t index, Triangles& strip) {
   const Section at = SectionAt(path, index);
   if (at.heading == Vector3()) return;
-  AddBar(at, kTick + kTickEdge, kTickLength + 2 * kTickEdge, kEdge, strip);
+  AddBar(at, kTick + kTickEdge, kTickLength + 2 * kTickEdge, kTickEdgeColour, strip);
   AddBar(at, kTick, kTickLength, kTickColour, strip);
 }
 
@@ -78,17 +88,10 @@ Triangles Faded(Triangles triangles, uint32_t alpha) {
 ChunkTriangles RibbonTriangles(const Palette& palette, Path path, size_t first, size_t last) {
   ChunkTriangles made;
   auto& [faintStrip, faintMarks, strip, marks] = made;
-  ForEachPiece(SectionsOf(path, first, last), [&](const Section& from, const Section& to,
-                                                  Seen seen) {
-    const std::array<uint32_t, 2> flow = {SpeedColour(palette, from.speed),
-                                          SpeedColour(palette, to.speed)};
-    const auto coloured = [&](uint32_t alpha) {
-      return std::array{WithAlpha(flow[0], alpha), WithAlpha(flow[1], alpha)};
-    };
-    AddLane(from, to, seen, {{-kHalf, coloured(kFaint)}, {kHalf, coloured(kFaint)}}, faintStrip);
-    AddEdges(from, to, seen, kHalf, kCore, strip);
-    AddLane(from, to, seen, {{-kCore, coloured(kNearlyFull)}, {kCore, coloured(kNearlyFull)}},
-            strip);
+  ForEachPiece(SectionsOf(path, first, last), [&](const Section& from, const Section& to) {
+    const std::array flow = {SpeedColour(palette, from.speed), SpeedColour(palette, to.speed)};
+    AddPiece(from, to, kFaintRibbon, flow, faintStrip);
+    AddPiece(from, to, kRibbon, flow, strip);
   });
   for (size_t i = first; i < last; ++i) {
     if (i > 0 && i % kPointsPerSecond == 0) AddTick(path, i, strip);
@@ -100,16 +103,11 @@ ChunkTriangles RibbonTriangles(const Palette& palette, Path path, size_t first, 
 
 ChunkTriangles LineTriangles(Path path, size_t first, size_t last) {
   ChunkTriangles made;
-  ForEachPiece(
-      SectionsOf(path, first, last), [&](const Section& from, const Section& to, Seen seen) {
-        const auto grey = [](uint32_t alpha) {
-          return std::array{WithAlpha(kGrey, alpha), WithAlpha(kGrey, alpha)};
-        };
-        AddLane(from, to, seen, {{-kThinCore, grey(kFaint)}, {kThinCore, grey(kFaint)}}, made[0]);
-        AddEdges(from, to, seen, kThinHalf, kThinCore, made[2]);
-        AddLane(from, to, seen, {{-kThinCore, grey(kThinAlpha)}, {kThinCore, grey(kThinAlpha)}},
-                made[2]);
-      });
+  auto& [faintStrip, faintMarks, strip, marks] = made;
+  ForEachPiece(SectionsOf(path, first, last), [&](const Section& from, const Section& to) {
+    AddPiece(from, to, kFaintLine, kGrey, faintStrip);
+    AddPiece(from, to, kThinLine, kGrey, strip);
+  });
   return made;
 }
 

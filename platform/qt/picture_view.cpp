@@ -7,6 +7,7 @@
 #include "platform/error.h"
 #include "platform/qt/colours.h"
 #include "platform/qt/images.h"
+#include "platform/qt/note_plate.h"
 #include "platform/qt/virtual_keys.h"
 
 namespace qt {
@@ -57,8 +58,23 @@ PictureView* PictureView::Of(const PictureArea& area) {
   return nullptr;
 }
 
+void PictureView::ShowNotes() {
+  QStringList notes;
+  for (const std::string& note : area_.Notes()) notes.append(QString::fromStdString(note));
+  if (notes == notes_) return;
+  notes_ = notes;
+  setAccessibleDescription(notes.join('\n'));
+  update();
+}
+
 void PictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  PaintPicture(painter);
+  painter.setFont(QApplication::font());
+  PaintNotes(painter, rect(), notes_);
+}
+
+void PictureView::PaintPicture(QPainter& painter) const {
   if (picture_.pixels.empty()) {
     painter.fillRect(rect(), QColor::fromRgb(colours::kEmptyPicture));
     return;

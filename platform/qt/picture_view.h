@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QStringList>
 #include <QWidget>
 
 #include "platform/controls.h"
@@ -15,6 +16,8 @@ class PictureView : public QWidget {
 
   /// Repaints with `picture` at the next chance.
   void Show(const Image& picture);
+  /// Shows the area's notes over the picture, and tells them to screen readers.
+  void ShowNotes();
   /// The view of a picture area; null when none was built.
   static PictureView* Of(const PictureArea& area);
 
@@ -27,7 +30,10 @@ class PictureView : public QWidget {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  void PaintPicture(QPainter& painter) const;
+
   const PictureArea& area_;
+  QStringList notes_;
   Image picture_;
 };
 

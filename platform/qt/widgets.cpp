@@ -134,6 +134,7 @@ QWidget* Build(PictureArea& area, QWidget* parent) {
   auto* widget = new PictureView(parent, area);
   Mirror<PictureArea, PictureView>(area, widget, [](const PictureArea& from, PictureView& to) {
     to.setCursor(from.Pointer() == PointerShape::Drag ? Qt::ClosedHandCursor : Qt::ArrowCursor);
+    to.ShowNotes();
   });
   return widget;
 }
