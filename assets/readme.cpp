@@ -55,6 +55,12 @@ Background
 Gravity Normal               F11
         Low                  F12
 
+Drive   Show Drive           F6
+        Drive From Here      F7
+        Watch Drive          F9
+        Save Drive
+        Best Win
+
 Help    About                Ctrl+A
         How to Use           F1
 )";
@@ -106,6 +112,29 @@ falling blocks do not wait. Red crosses kill. Collect the stars on the way.
 Whoever falls off starts again.
 
 
+SEE THE DRIVE
+-------------
+The editor remembers your last drive, from its start to the win, the crash, the
+fall or F4, and your quickest win.
+
+Show Drive (F6) draws it through the track as a ribbon: blue is slow, yellow is
+fast, red is faster than the engine; a bar stands for each second. Triangles
+show where the car takes off and lands, stars what it picks up, rings its pads.
+What lies behind a piece is faint. The line below tells how the drive ends.
+
+Change the track, and the same keys are driven again at once: you see where the
+car goes now. A thin grey line shows where it went before. A click on the
+ribbon brings the camera there. While platforms are paused they stand, and a
+ghost of the car with them, as when the drive comes to where the camera looks.
+
+Drive From Here (F7) puts you into the drive where the camera looks: same
+place, same speed, everything as it was. Whoever dies begins there again.
+Watch Drive (F9) lets the drive run; the first key you touch is yours.
+
+Save Drive writes the keys beside the track, into NAME.keys; opening the track
+brings them back. With Best Win checked all of this is about your quickest win.
+
+
 NOTHING YOU DO IS FINAL
 -----------------------
 Every change of the track can be undone and done again, step by step: a new
@@ -125,7 +154,7 @@ a track stay. Open one as you open any track; saving it then asks for a name.
 
 THE FOLDERS
 -----------
-levels        the tracks; in levels/backup their safety copies
+levels        the tracks and drives; in levels/backup their safety copies
 textures      what blocks can wear: add your own .bmp pictures
 backgrounds   the pictures behind the tracks
 models, skins the car and the star

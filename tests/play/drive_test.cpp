@@ -7,23 +7,6 @@ namespace {
 
 using DriveTest = PlayTest;
 
-TEST(DriveScript, HasCommentsAndBlankLinesAndNamesTheBadOne) {
-  const auto runs = drive::ParseScript("# a drive\n\n 30 up \r\n\t7 left+jump # hop\n5 -");
-  ASSERT_EQ(runs.size(), 3U);
-  EXPECT_EQ(runs[1].frames, 7);
-  EXPECT_EQ(runs[1].keys, kLeftKey | kJumpKey);
-  for (const std::string bad :
-       {"up", "3", "3 up down", "x up", "3x up", "-3 up", "0 up", "1.5 up", "9999999999 up",
-        "3 fly", "3 up+", "3 +up", "3 up++down", "3 Up", "3 -+up", "3 up + down"}) {
-    try {
-      drive::ParseScript("1 up\n# fine\n" + bad + "\n");
-      ADD_FAILURE() << bad;
-    } catch (const drive::ScriptError& failure) {
-      EXPECT_TRUE(std::string(failure.what()).starts_with("line 3: ")) << bad;
-    }
-  }
-}
-
 TEST_F(DriveTest, FallsUnderBothGravitiesAndStartsOver) {
   AddBlock({100, 0, 100}, {1, 1, 1});
   for (const double gravity : {0.025, 0.0125}) {

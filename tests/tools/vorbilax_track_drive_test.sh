@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
-# vorbilax-track drive: every shipped track is won by its key script; statuses and rows.
-here=$(cd "$(dirname "$0")" && pwd)
-source "$here/lib.sh" "$1"
+# vorbilax-track drive: every shipped track is won by the drive that comes with it; statuses and rows.
+source "$(dirname "$0")/lib.sh" "$1"
 
 for track in "$programs"/levels/*.lvl; do
-  keys=$here/../tracks/$(basename "$track" .lvl).keys
+  keys=${track%.lvl}.keys
   expect_status 0 "$tool" drive "$track" "$keys" --until-end
   [[ $(tail -n 1 "$work/out") == *,1,*,win ]] || fail "$track: no win in the last row"
   [ ! -s "$work/err" ] || fail "$track: $(cat "$work/err")"
