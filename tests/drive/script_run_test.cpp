@@ -31,7 +31,7 @@ class ScriptRunTest : public PlayTest {
 
 TEST_F(ScriptRunTest, MarksFlightsPadsAndStars) {
   AddFloor();
-  AddBlock({-2, 0.1F, 30}, {4, 1, 4}, clsblock::TurboPad);
+  AddBlock({-2, 0, 30}, {4, 1, 4}, clsblock::TurboPad);
   AddStar(0, 1, 8);
   const auto run = RunOf(kLand + "30 up\n1 jump\n90 -");
   const drive::Path& path = run.Path();
