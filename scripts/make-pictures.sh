@@ -74,3 +74,17 @@ sleep 0.5
 xdotool mousemove --window "$window" 300 $((menu + 290)) click 1
 sleep 0.5
 import -window "$window" "$docs/screenshot.png"
+
+# A drive through a track, and where it goes since a block was moved.
+xdotool key ctrl+o
+sleep 1
+xdotool type --delay 5 "$work/install/levels/2 Twist and Hop.lvl"
+xdotool key Return
+sleep 1
+xdotool key F6
+for _ in 1 2 3 4 5 6; do xdotool mousemove --window "$window" 300 $((menu + 300)) click 4; done
+xdotool mousemove --window "$window" 372 $((menu + 160)) click 1
+sleep 0.3
+xdotool key Right Right Right Right
+sleep 0.5
+import -window "$window" "$docs/drive.png"
