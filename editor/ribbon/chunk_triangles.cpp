@@ -87,26 +87,24 @@ Triangles Faded(Triangles triangles, uint32_t alpha) {
 
 ChunkTriangles RibbonTriangles(const Palette& palette, Path path, size_t first, size_t last) {
   ChunkTriangles made;
-  auto& [faintStrip, faintMarks, strip, marks] = made;
   ForEachPiece(SectionsOf(path, first, last), [&](const Section& from, const Section& to) {
     const std::array flow = {SpeedColour(palette, from.speed), SpeedColour(palette, to.speed)};
-    AddPiece(from, to, kFaintRibbon, flow, faintStrip);
-    AddPiece(from, to, kRibbon, flow, strip);
+    AddPiece(from, to, kFaintRibbon, flow, made.faintStrip);
+    AddPiece(from, to, kRibbon, flow, made.strip);
   });
   for (size_t i = first; i < last; ++i) {
-    if (i > 0 && i % kPointsPerSecond == 0) AddTick(path, i, strip);
+    if (i > 0 && i % kPointsPerSecond == 0) AddTick(path, i, made.strip);
   }
-  AddGroupedMarks(path, first, last + 1 == path.size() ? path.size() : last, marks);
-  faintMarks = Faded(marks, kFaintMark);
+  AddGroupedMarks(path, first, last + 1 == path.size() ? path.size() : last, made.marks);
+  made.faintMarks = Faded(made.marks, kFaintMark);
   return made;
 }
 
 ChunkTriangles LineTriangles(Path path, size_t first, size_t last) {
   ChunkTriangles made;
-  auto& [faintStrip, faintMarks, strip, marks] = made;
   ForEachPiece(SectionsOf(path, first, last), [&](const Section& from, const Section& to) {
-    AddPiece(from, to, kFaintLine, kGrey, faintStrip);
-    AddPiece(from, to, kThinLine, kGrey, strip);
+    AddPiece(from, to, kFaintLine, kGrey, made.faintStrip);
+    AddPiece(from, to, kThinLine, kGrey, made.strip);
   });
   return made;
 }
