@@ -12,6 +12,8 @@ namespace {
 
 /// From the car to the camera, which is never turned.
 constexpr Vector3 kToCamera = {0, 0.687F, -0.727F};
+/// Cosine of faces that it sees from behind even in the corners of its view.
+constexpr double kTurnedAway = -0.6;
 constexpr ColourValue kFacing = {0.80F, 0.95F, 1.0F, 0.74F};
 constexpr ColourValue kGrazing = {0.10F, 0.36F, 0.80F, 0.92F};
 constexpr uint32_t kFaint = 0x38A8E0FF, kRim = 0xC8081830;
@@ -34,6 +36,12 @@ uint32_t Glass(const Vector3& normal) {
 
 Vector3 PlaceOf(const Vertex& vertex) { return {vertex.x, vertex.y, vertex.z}; }
 
+Vector3 NormalOf(std::span<const Vertex> triangle) {
+  Vector3 normal;
+  maths::FaceNormal(PlaceOf(triangle[0]), PlaceOf(triangle[1]), PlaceOf(triangle[2]), normal);
+  return normal;
+}
+
 Vertex Coloured(const Vector3& at, uint32_t colour) { return {at.x, at.y, at.z, colour, 0, 0, 0}; }
 
 Vector3 OnRim(const Vector3& at) {
@@ -44,11 +52,16 @@ Vector3 OnRim(const Vector3& at) {
           moved(at.z, kMiddle.z, kToCamera.z)};
 }
 
+/// Those that the camera may see anywhere in its view.
 std::vector<Vertex> TrianglesOf(const d3dx::MeshObject& model) {
   std::vector<Vertex> all;
   for (int32_t subset = 0; subset < model.MaterialCount(); ++subset) {
     const std::span<const Vertex> vertices = model.Triangles(subset);
-    all.insert(all.end(), vertices.begin(), vertices.end());
+    for (size_t i = 0; i + 2 < vertices.size(); i += 3) {
+      const auto triangle = vertices.subspan(i, 3);
+      if (d3dx::Dot(NormalOf(triangle), kToCamera) > kTurnedAway)
+        all.insert(all.end(), triangle.begin(), triangle.end());
+    }
   }
   return all;
 }
@@ -61,10 +74,7 @@ GhostCar::GhostCar(const d3dx::MeshObject& model) {
   std::vector<Vertex> layers(3 * car.size());
   const auto layer = [&](Layer which) { return which * car.size(); };
   for (size_t i = 0; i < car.size(); ++i) {
-    const size_t first = i - i % 3;
-    Vector3 normal;
-    maths::FaceNormal(PlaceOf(car[first]), PlaceOf(car[first + 1]), PlaceOf(car[first + 2]),
-                      normal);
+    const Vector3 normal = NormalOf(std::span(car).subspan(i - i % 3, 3));
     const Vector3 place = PlaceOf(car[i]);
     layers[layer(Faint) + i] = Coloured(place, kFaint);
     layers[layer(Rim) + i] = Coloured(OnRim(place), kRim);

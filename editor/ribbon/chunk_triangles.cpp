@@ -10,14 +10,14 @@ namespace {
 
 using Path = std::span<const drive::PathPoint>;
 
-/// A coloured lane between two dark ones, which set it off from every ground.
+/// A coloured lane on a wider dark one, which sets it off from every ground.
 struct Look {
-  double half, core;  ///< from the middle to the edge and to the dark lane, world units
+  double half, core;  ///< from the middle to the edges of both, world units
   uint32_t alpha;     ///< of the coloured lane
-  uint32_t edge;      ///< colour of the dark ones
+  uint32_t dark;      ///< colour of the other
 };
-constexpr Look kRibbon = {0.25, 0.18, 0xF4, 0xC00C121C};
-constexpr Look kFaintRibbon = {0.25, 0.18, 0x58, 0x500C121C};
+constexpr Look kRibbon = {0.25, 0.18, 0xFF, 0xC00C121C};
+constexpr Look kFaintRibbon = {0.25, 0.18, 0x5C, 0x400C121C};
 constexpr Look kThinLine = {0.1, 0.055, 0xB0, 0xA00C121C};
 constexpr Look kFaintLine = {0.1, 0.055, 0x48, 0x380C121C};
 constexpr std::array<uint32_t, 2> kGrey = {0xC3CAD3, 0xC3CAD3};
@@ -30,10 +30,9 @@ constexpr uint32_t kFaintMark = 0x50;
 void AddPiece(const Section& from, const Section& to, const Look& look,
               const std::array<uint32_t, 2>& flow, Triangles& strip) {
   const Seen seen = SideSeen(from, to);
-  const std::array dark = {look.edge, look.edge};
+  const std::array dark = {look.dark, look.dark};
   const std::array coloured = {WithAlpha(flow[0], look.alpha), WithAlpha(flow[1], look.alpha)};
-  AddLane(from, to, seen, {{-look.half, dark}, {-look.core, dark}}, strip);
-  AddLane(from, to, seen, {{look.core, dark}, {look.half, dark}}, strip);
+  AddLane(from, to, seen, {{-look.half, dark}, {look.half, dark}}, strip);
   AddLane(from, to, seen, {{-look.core, coloured}, {look.core, coloured}}, strip);
 }
 
@@ -87,26 +86,24 @@ Triangles Faded(Triangles triangles, uint32_t alpha) {
 
 ChunkTriangles RibbonTriangles(const Palette& palette, Path path, size_t first, size_t last) {
   ChunkTriangles made;
-  auto& [faintStrip, faintMarks, strip, marks] = made;
   ForEachPiece(SectionsOf(path, first, last), [&](const Section& from, const Section& to) {
     const std::array flow = {SpeedColour(palette, from.speed), SpeedColour(palette, to.speed)};
-    AddPiece(from, to, kFaintRibbon, flow, faintStrip);
-    AddPiece(from, to, kRibbon, flow, strip);
+    AddPiece(from, to, kFaintRibbon, flow, made.faintStrip);
+    AddPiece(from, to, kRibbon, flow, made.strip);
   });
   for (size_t i = first; i < last; ++i) {
-    if (i > 0 && i % kPointsPerSecond == 0) AddTick(path, i, strip);
+    if (i > 0 && i % kPointsPerSecond == 0) AddTick(path, i, made.strip);
   }
-  AddGroupedMarks(path, first, last + 1 == path.size() ? path.size() : last, marks);
-  faintMarks = Faded(marks, kFaintMark);
+  AddGroupedMarks(path, first, last + 1 == path.size() ? path.size() : last, made.marks);
+  made.faintMarks = Faded(made.marks, kFaintMark);
   return made;
 }
 
 ChunkTriangles LineTriangles(Path path, size_t first, size_t last) {
   ChunkTriangles made;
-  auto& [faintStrip, faintMarks, strip, marks] = made;
   ForEachPiece(SectionsOf(path, first, last), [&](const Section& from, const Section& to) {
-    AddPiece(from, to, kFaintLine, kGrey, faintStrip);
-    AddPiece(from, to, kThinLine, kGrey, strip);
+    AddPiece(from, to, kFaintLine, kGrey, made.faintStrip);
+    AddPiece(from, to, kThinLine, kGrey, made.strip);
   });
   return made;
 }

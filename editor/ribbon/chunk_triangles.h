@@ -1,7 +1,6 @@
 // The triangles of one piece of a path.
 #pragma once
 
-#include <array>
 #include <span>
 
 #include "editor/ribbon/speed_colours.h"
@@ -14,8 +13,10 @@ inline constexpr size_t kPointsPerSecond = 25;
 /// How far triangles reach from the middle of the strip, world units.
 inline constexpr double kStripReach = 1.0;
 
-/// Faint strip, faint marks, strip, marks.
-using ChunkTriangles = std::array<Triangles, 4>;
+/// What shines through what hides it, and what is in plain sight.
+struct ChunkTriangles {
+  Triangles faintStrip, faintMarks, strip, marks;
+};
 
 /// A ribbon with ticks and marks from point `first` to `last`; marks of `last` belong to the next
 /// piece unless it is the path's last point.

@@ -75,10 +75,11 @@ void ChunkedLine::Make(Device& device, Chunk& chunk, size_t index) const {
   const ChunkTriangles made = palette_ != nullptr ? RibbonTriangles(*palette_, points_, first, last)
                                                   : LineTriangles(points_, first, last);
   Triangles all;
-  for (size_t part = 0; part < made.size(); ++part) {
-    chunk.parts[part] = {static_cast<uint32_t>(all.size()),
-                         static_cast<uint32_t>(made[part].size() / 3)};
-    all.insert(all.end(), made[part].begin(), made[part].end());
+  auto range = chunk.parts.begin();
+  // In the order of the parts' names.
+  for (const Triangles* part : {&made.faintStrip, &made.faintMarks, &made.strip, &made.marks}) {
+    *range++ = {static_cast<uint32_t>(all.size()), static_cast<uint32_t>(part->size() / 3)};
+    all.insert(all.end(), part->begin(), part->end());
   }
   if (!all.empty()) chunk.buffer = device.CreateVertexBuffer(all);
 }

@@ -15,8 +15,8 @@ using Path = std::span<const PathPoint>;
 constexpr double kFarthest = 1e5;                 ///< of a place from the origin
 constexpr double kStands = 1e-3;                  ///< shorter steps are none
 constexpr double kShortest = 0.25;                ///< between sections inside a strip
-constexpr double kStraight = 0.9995;              ///< cosine of a bend that nobody sees
-constexpr double kSteadySpeed = 0.02;             ///< a change of it nobody sees
+constexpr double kStraight = 0.997;               ///< cosine of a bend that nobody sees
+constexpr double kSteadySpeed = 0.03;             ///< a change of it nobody sees
 constexpr double kSteep = 0.75, kUpright = 0.95;  ///< sines of the slope
 constexpr double kSharpest = 0.5;  ///< a mitre is not made longer than twice the width
 

@@ -22,13 +22,13 @@ inline constexpr Palette kOwnDrive = {{{{0.0, 0x2340C8},
                                         {0.46, 0x86DC22},
                                         {0.6, 0xFFE22E},
                                         {1.0, 0xFF3F1A}}}};
-/// A drive that was found: violet, magenta, pink, nearly white.
+/// A drive that was found: violet, magenta, pink, pale pink.
 inline constexpr Palette kFoundDrive = {{{{0.0, 0x5B21B6},
                                           {0.16, 0x8127E0},
                                           {0.32, 0xB026E0},
                                           {0.46, 0xE030D0},
-                                          {0.6, 0xFF6AD0},
-                                          {1.0, 0xFFE6F7}}}};
+                                          {0.6, 0xFF5CCB},
+                                          {1.0, 0xFFC2EA}}}};
 
 /// 0xRRGGBB.
 uint32_t SpeedColour(const Palette& palette, double speed);
