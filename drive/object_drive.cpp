@@ -74,4 +74,13 @@ Row ObjectDrive::Step(CarKeys keys) {
                ending);
 }
 
+bool WinsThroughObjects(const KeyScript& script) {
+  ObjectDrive drive;
+  for (KeyReader keys(script); !keys.AtEnd();) {
+    const Row row = drive.Step(keys.Next());
+    if (row.event != NameOf(Ending::None)) return row.event == NameOf(Ending::Wins);
+  }
+  return false;
+}
+
 }  // namespace drive

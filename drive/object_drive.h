@@ -5,6 +5,7 @@
 #include <string>
 
 #include "drive/drive_row.h"
+#include "drive/key_script.h"
 #include "platform/clock.h"
 #include "play/car.h"
 
@@ -41,5 +42,8 @@ class ObjectDrive {
   FrameClock clock_;
   std::string track_;
 };
+
+/// Whether the script wins the document's track, driven through its objects.
+bool WinsThroughObjects(const KeyScript& script);
 
 }  // namespace drive

@@ -2,6 +2,7 @@
 // reason has been written to stderr).
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace track_tool {
@@ -25,5 +26,14 @@ int Render(const std::string& file, const std::string& picture, const RenderOpti
 /// Drives the track by a key script, a row of the car's numbers per frame on stdout. Until the end:
 /// stops at the first dead row and returns kNotWon unless the track was won.
 int DriveTrack(const std::string& file, const std::string& script, bool untilEnd);
+
+struct SolveOptions {
+  std::string script;  ///< file for the keys that win; empty: none is written
+  int64_t steps;       ///< limits of the search
+  int32_t states;
+};
+/// Looks for a drive that wins the track and says on stdout what came of it; kNotWon where none was
+/// found.
+int Solve(const std::string& file, const SolveOptions& options);
 
 }  // namespace track_tool

@@ -7,6 +7,7 @@
 
 #include "platform/error_text.h"
 #include "platform/paths.h"
+#include "search/drive_search.h"
 #include "tools/vorbilax_track/commands.h"
 
 namespace {
@@ -63,6 +64,15 @@ int main(int argc, char** argv) {
   drive->add_option("SCRIPT", script, "lines of frames and keys, such as: 30 up+left")->required();
   drive->add_flag("--until-end", untilEnd, "stop when the run ends; status 3 unless it was won");
 
+  SolveOptions solving{{}, search::Limits().steps, search::Limits().states};
+  CLI::App* solve = app.add_subcommand("solve", "look for a drive that wins a track");
+  solve->add_option("FILE", input, "level file")->required();
+  solve->add_option("SCRIPT", solving.script, "file to write the winning keys to");
+  solve->add_option("--steps", solving.steps, "steps of the car to try at most")
+      ->check(CLI::Range(int64_t{1}, int64_t{1'000'000'000'000}));
+  solve->add_option("--states", solving.states, "states to keep at most")
+      ->check(CLI::Range(1, 100'000'000));
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& failure) {
@@ -75,6 +85,7 @@ int main(int argc, char** argv) {
   return Run([&] {
     if (info->parsed()) return Info(input, json);
     if (convert->parsed()) return Convert(input, output);
+    if (solve->parsed()) return Solve(input, solving);
     if (drive->parsed()) return DriveTrack(input, script, untilEnd);
     return Render(input, output, options);
   });
