@@ -21,7 +21,7 @@ struct FrozenBlock {
 };
 
 struct FrozenPlatform {
-  Extent box;  ///< at its start
+  Extent box;               ///< at its start
   mutable PlatformWay way;  ///< works itself out
 };
 

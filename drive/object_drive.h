@@ -27,6 +27,8 @@ class ObjectDrive {
 
   /// Runs one frame; after a dead row it starts over.
   Row Step(CarKeys keys);
+  /// The same for who only wants to know whether it ended.
+  Ending StepTo(CarKeys keys);
 
  private:
   class FrameClock : public Clock {
@@ -40,6 +42,7 @@ class ObjectDrive {
   void RestoreTrack() const;
 
   FrameClock clock_;
+  Clock* clockBefore_ = nullptr;
   std::string track_;
 };
 

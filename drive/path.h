@@ -1,6 +1,7 @@
 // The car's way through a track, a point per frame, and what happens on it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -27,5 +28,10 @@ struct PathPoint {
 
 /// Point 0 is the start, point n what frame n ended with.
 using Path = std::vector<PathPoint>;
+
+/// The point among the first `count` whose place is nearest to this depth; of equals the first.
+size_t PointNearDepth(const Path& path, size_t count, float depth);
+/// Whether the path passes this depth, or nearly.
+bool PassesDepth(const Path& path, float depth);
 
 }  // namespace drive

@@ -61,6 +61,7 @@ const MenuRow kMenus[] = {
     {&M::mnu_drive, "mnu_drive", "Drive", "", nullptr},
     {&M::mnu_showdrive, "mnu_showdrive", "Show Drive", "F6", &M::mnu_drive, true},
     {&M::mnu_drivefromhere, "mnu_drivefromhere", "Drive From Here", "F7", &M::mnu_drive},
+    {&M::mnu_finddrive, "mnu_finddrive", "Find A Winning Drive", "F8", &M::mnu_drive, true},
     {&M::mnu_watchdrive, "mnu_watchdrive", "Watch Drive", "F9", &M::mnu_drive},
     {&M::mnu_savedrive, "mnu_savedrive", "Save Drive", "", &M::mnu_drive},
     {&M::mnu_bestwin, "mnu_bestwin", "Best Win", "", &M::mnu_drive, true},

@@ -25,6 +25,7 @@ Clock*& Named() {
 }  // namespace
 
 void Use(Clock* clock) { Named() = clock; }
+Clock* InUse() { return Named(); }
 
 int32_t Count() {
   static SystemClock own;

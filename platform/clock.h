@@ -27,6 +27,8 @@ namespace ticks {
 
 /// Names the clock that is read; it must outlive its use. Null: the machine's own.
 void Use(Clock* clock);
+/// The one that was named last.
+Clock* InUse();
 /// Milliseconds since some fixed moment; wraps round.
 int32_t Count();
 /// Milliseconds from `start` to `now`, across a wrap too.

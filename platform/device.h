@@ -29,7 +29,7 @@ struct Material {
 
 class Device {
  public:
-  /// `executor` draws what Present hands over; null drops it.
+  /// `executor` draws what Present hands over; null drops it, and nothing can be seen then.
   explicit Device(std::unique_ptr<Executor> executor);
 
   void Clear(uint32_t colour, float depth);
@@ -50,6 +50,7 @@ class Device {
   /// wants everything.
   bool MaySee(const Vector3& corner, const Vector3& size) {
     if (needsUnseen_) return true;
+    if (!executor_) return false;
     if (frustumOld_) RenewFrustum();
     return frustum_.MaySee(corner, size);
   }

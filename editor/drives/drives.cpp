@@ -23,10 +23,9 @@ Drives::Drives(MainControls& controls, std::function<void()> enterPlay)
     : seat([this](Attempt attempt) { memory.Keep(std::move(attempt)); }),
       controls_(controls),
       enterPlay_(std::move(enterPlay)) {
-  controls.mnu_showdrive.onClick = [&item = controls.mnu_showdrive] {
-    item.Checked(!item.Checked());
-  };
-  controls.mnu_bestwin.onClick = [&item = controls.mnu_bestwin] { item.Checked(!item.Checked()); };
+  for (MenuItem* item : {&controls.mnu_showdrive, &controls.mnu_finddrive, &controls.mnu_bestwin}) {
+    item->onClick = [item] { item->Checked(!item->Checked()); };
+  }
   controls.mnu_drivefromhere.onClick = [this] { DriveFromHere(); };
   controls.mnu_watchdrive.onClick = [this] { WatchDrive(); };
   controls.mnu_savedrive.onClick = [this] { SaveChosen(); };
@@ -34,21 +33,31 @@ Drives::Drives(MainControls& controls, std::function<void()> enterPlay)
 
 const Attempt* Drives::Chosen() {
   TrackDrives& drives = memory.Present();
+  if (Searches() && !controls_.mnu_showdrive.Checked()) return winning_.Found();
   if (controls_.mnu_bestwin.Checked() && drives.best) return &*drives.best;
   return drives.last ? &*drives.last : nullptr;
 }
 
-/// Another number for another track, another state of it, and another drive.
+/// Another number for another track and another state of it.
+uint64_t Drives::TrackVersion() {
+  constexpr uint64_t kPrime = 0x100000001B3U;
+  return history::steps.State() * kPrime + Document.TrackNumber;
+}
+
+/// Another number for another drive, too.
 uint64_t Drives::Version() const {
   constexpr uint64_t kPrime = 0x100000001B3U;
-  const uint64_t best = controls_.mnu_bestwin.Checked() ? 1 : 2;
-  return ((history::steps.State() * kPrime + Document.TrackNumber) * kPrime + memory.Changes()) *
-             3 +
-         best;
+  const uint64_t which = (controls_.mnu_bestwin.Checked() ? 1U : 0U) +
+                         (controls_.mnu_showdrive.Checked() ? 2U : 0U) + (Searches() ? 4U : 0U);
+  return (TrackVersion() * kPrime + memory.Changes()) * kPrime + which;
 }
 
 bool Drives::ShowsDrive() const {
   return controls_.mnu_showdrive.Checked() && Document.EditorMode == EditMode;
+}
+
+bool Drives::Searches() const {
+  return controls_.mnu_finddrive.Checked() && Document.EditorMode == EditMode;
 }
 
 void Drives::UpdateMenu() {
@@ -60,58 +69,92 @@ void Drives::UpdateMenu() {
   Enable(controls_.mnu_bestwin, memory.Present().best.has_value());
 }
 
-void Drives::Hide() {
-  shown_.Clear();
-  ribbon_.Hide();
-  ghostFrame_.reset();
-}
-
 void Drives::Update() {
   UpdateMenu();
-  const Attempt* const chosen = ShowsDrive() ? Chosen() : nullptr;
-  if (chosen == nullptr) {
-    Hide();
-    std::string why = memory.Present().unreadable;
-    if (why.empty()) why = "No drive to show yet: press F3 and drive";
-    controls_.viewport.Notes(ShowsDrive() ? std::vector{why} : std::vector<std::string>());
-    return;
+  std::vector<std::string> notes;
+  if (ShowsDrive()) {
+    notes.push_back(FollowDrive());
+  } else {
+    shown_.Clear();
+    ribbon_.Hide();
   }
-  if (shown_.Follow(*chosen, Version())) {
-    ribbon_.Show(shown_.Path(), shown_.OldRest());
-    controls_.viewport.Notes({shown_.Words()});
+  if (Searches()) {
+    notes.push_back(FollowSearch());
+  } else {
+    winning_.Rest();
+    foundRibbon_.Hide();
   }
+  controls_.viewport.Notes(std::move(notes));
   PlaceGhost();
+}
+
+/// Shows the own drive; what there is to say about it.
+std::string Drives::FollowDrive() {
+  const Attempt* const chosen = Chosen();
+  if (chosen == nullptr) {
+    shown_.Clear();
+    ribbon_.Hide();
+    const std::string& why = memory.Present().unreadable;
+    return why.empty() ? "No drive to show yet: press F3 and drive" : why;
+  }
+  if (shown_.Follow(*chosen, Version())) ribbon_.Show(shown_.Path(), shown_.OldRest());
+  return shown_.Words();
+}
+
+/// The same for the drive that is looked for.
+std::string Drives::FollowSearch() {
+  if (winning_.Follow(TrackVersion())) {
+    const Attempt* const found = winning_.Found();
+    if (found != nullptr) {
+      foundRibbon_.Show(found->path, {});
+    } else {
+      foundRibbon_.Hide();
+    }
+  }
+  return winning_.Words();
 }
 
 /// Car and platforms are shown where they are when the drive comes to what the camera looks at.
 void Drives::PlaceGhost() {
+  ghost_.reset();
+  if (!Document.PlatformsPaused || (!ribbon_.Shown() && !foundRibbon_.Shown())) return;
+  const bool own = ribbon_.Shown();
+  const drive::Path& path = own ? shown_.Path() : winning_.Found()->path;
   const float depth = DirectX::CameraTarget.z;
-  ghostFrame_.reset();
-  if (Document.PlatformsPaused && shown_.Passes(depth)) ghostFrame_ = shown_.FrameNear(depth);
+  if (!PassesDepth(path, depth)) return;
+  const size_t frame = PointNearDepth(path, path.size(), depth);
+  ghost_ = Ghost{own ? &shown_.Track() : &winning_.Track(), frame, path[frame].place};
 }
 
 FrameAdditions Drives::Additions() {
-  if (!ribbon_.Shown()) return {};
+  if (!ribbon_.Shown() && !foundRibbon_.Shown()) return {};
   FrameAdditions additions;
-  if (ghostFrame_) {
+  if (ghost_) {
     additions.platformX = [this](size_t i, const clsMovingPlatform&) {
-      return shown_.Track().Platforms()[i].way.At(static_cast<size_t>(*ghostFrame_)).x;
+      return ghost_->track->Platforms()[i].way.At(ghost_->frame).x;
     };
   }
   additions.afterPieces = [this] {
-    ribbon_.Draw();
-    if (ghostFrame_) Player.DrawGhost(shown_.Path()[static_cast<size_t>(*ghostFrame_)].place);
+    // The marks stay in front of the ghost.
+    if (ghost_) Player.DrawGhost(ghost_->place);
+    if (foundRibbon_.Shown()) foundRibbon_.Draw();
+    if (ribbon_.Shown()) ribbon_.Draw();
   };
   return additions;
 }
 
 void Drives::Click(float x, float y) {
-  if (!ShowsDrive() || !ribbon_.Shown()) return;
-  const auto point = ribbon_.PointAt(x, y);
-  if (!point) return;
+  if (Document.EditorMode != EditMode) return;
+  std::optional<float> depth;
+  if (const auto point = ribbon_.Shown() ? ribbon_.PointAt(x, y) : std::nullopt) {
+    depth = shown_.Path()[*point].place.z;
+  } else if (const auto other = foundRibbon_.Shown() ? foundRibbon_.PointAt(x, y) : std::nullopt) {
+    depth = winning_.Found()->path[*other].place.z;
+  }
+  if (!depth) return;
   ScrollBar& bar = controls_.VScroll1;
-  const long depth = std::lround(shown_.Path()[*point].place.z);
-  bar.Value(bar.Maximum() - static_cast<int>(std::clamp<long>(depth, 0, bar.Maximum())));
+  bar.Value(bar.Maximum() -
+            static_cast<int>(std::clamp<long>(std::lround(*depth), 0, bar.Maximum())));
   // After play the camera need not be where the bar says.
   if (bar.onChange) bar.onChange();
 }

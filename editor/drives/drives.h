@@ -6,6 +6,7 @@
 #include "editor/drives/drive_memory.h"
 #include "editor/drives/seat.h"
 #include "editor/drives/shown_drive.h"
+#include "editor/drives/winning_drive.h"
 #include "editor/main_controls.h"
 #include "editor/ribbon/ribbon.h"
 #include "render/frame/RenderFrame.h"
@@ -30,10 +31,13 @@ class Drives {
  private:
   /// The drive that the menu is about; null when there is none.
   const Attempt* Chosen();
+  static uint64_t TrackVersion();
   uint64_t Version() const;
   void UpdateMenu();
-  void Hide();
   bool ShowsDrive() const;
+  bool Searches() const;
+  std::string FollowDrive();
+  std::string FollowSearch();
   void PlaceGhost();
 
   void DriveFromHere();
@@ -43,8 +47,15 @@ class Drives {
   MainControls& controls_;
   std::function<void()> enterPlay_;
   ShownDrive shown_;
-  ribbon::Ribbon ribbon_{ribbon::kOwnDrive};
-  std::optional<int> ghostFrame_;  ///< of the shown drive, while platforms stand
+  WinningDrive winning_;
+  ribbon::Ribbon ribbon_{ribbon::kOwnDrive}, foundRibbon_{ribbon::kFoundDrive};
+  /// Where the drive that is shown is when it comes to what the camera looks at.
+  struct Ghost {
+    const drive::FrozenTrack* track;
+    size_t frame;
+    Vector3 place;
+  };
+  std::optional<Ghost> ghost_;  ///< while platforms stand
 };
 
 }  // namespace drives

@@ -1,7 +1,6 @@
 #include "editor/drives/shown_drive.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <limits>
 
@@ -80,19 +79,8 @@ std::string ShownDrive::Words() const {
 
 int ShownDrive::FrameNear(float depth) const {
   // The last point of a run that has ended is no place to drive on from.
-  const bool ended = run_->HowItEnds() != drive::Ending::None;
-  const auto end = Path().end() - (ended ? 1 : 0);
-  const auto nearest = std::min_element(Path().begin(), end, [depth](const auto& a, const auto& b) {
-    return std::abs(a.place.z - depth) < std::abs(b.place.z - depth);
-  });
-  return static_cast<int>(nearest - Path().begin());
-}
-
-bool ShownDrive::Passes(float depth) const {
-  constexpr float kBeyond = 2;
-  const auto [first, last] =
-      std::ranges::minmax(Path(), {}, [](const drive::PathPoint& point) { return point.place.z; });
-  return first.place.z - kBeyond <= depth && depth <= last.place.z + kBeyond;
+  const size_t over = run_->HowItEnds() != drive::Ending::None ? 1 : 0;
+  return static_cast<int>(PointNearDepth(Path(), Path().size() - over, depth));
 }
 
 }  // namespace drives

@@ -32,8 +32,6 @@ class ShownDrive {
   std::string Words() const;
   /// The frame whose place is nearest to this depth and from which one can drive on.
   int FrameNear(float depth) const;
-  /// Whether the path passes this depth.
-  bool Passes(float depth) const;
 
  private:
   uint64_t version_ = 0;

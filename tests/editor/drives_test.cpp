@@ -1,6 +1,9 @@
 // Drives in the edit view and in the seat: what is remembered, shown, driven on and watched.
 #include "editor/drives/drives.h"
 
+#include <chrono>
+#include <thread>
+
 #include "drive/object_drive.h"
 #include "editor/drives/drive_file.h"
 #include "editor/history/history.h"
@@ -288,6 +291,57 @@ TEST_F(DrivesTest, AnIdleMomentAfterACrashIsNoAttempt) {
   Frames(5);
   c.mnu_editmode.UserClicks();
   EXPECT_EQ(Last().script, fall.script);
+}
+
+TEST_F(DrivesTest, AWinIsLookedForBesideTheLoopAndConfirmedBesideTheTrack) {
+  BuildRoad();
+  Document.PlatformsPaused = true;
+  c.VScroll1.UserScrolls(900);
+  Player.SetBouncePad();
+  const auto camera = DirectX::CameraPosition;
+  const std::string bytes = Bytes();
+  const auto answer = [this] {
+    std::string note = Note();
+    for (int i = 0; i < 2000 && note.starts_with("Searching"); ++i) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(2));
+      note = Note();
+    }
+    return note;
+  };
+  c.mnu_finddrive.UserClicks();
+  EXPECT_TRUE(Note().starts_with("Searching"));
+  const std::string won = answer();
+  EXPECT_TRUE(won.starts_with("Can be won: ")) << won;
+  EXPECT_TRUE(Bytes() == bytes);
+  EXPECT_EQ(Words(DirectX::CameraPosition == camera, Document.EditorMode, Document.PlatformsPaused,
+                  Particles.ParticleCount(), ticks::InUse() == &clock),
+            "1 1 1 0 1");
+
+  Select(TypeBlock, 1);
+  selection::DeleteSelection();
+  EXPECT_EQ(answer(), "The track has no WIN block");
+  c.mnu_undo.UserClicks();
+  EXPECT_EQ(Note(), won) << "known from before";
+  Select(TypeBlock, 1);
+  for (int i = 0; i < 40; ++i) selection::MoveSelection(1, 0, 0);
+  EXPECT_EQ(answer(), "No WIN block can be reached");
+  for (int i = 0; i < 40; ++i) c.mnu_undo.UserClicks();
+  EXPECT_EQ(Note(), won);
+
+  // With no drive of the user's own shown, it is the one to watch, save and drive on from.
+  c.mnu_watchdrive.UserClicks();
+  bool dead = false;
+  for (int i = 0; i < 1000 && !dead; ++i) {
+    Frames(1);
+    dead = Player.DeathStatus();
+  }
+  EXPECT_TRUE(dead && Player.PosY() > 0) << "it wins";
+  c.mnu_editmode.UserClicks();
+  EXPECT_EQ(form.drives.memory.Changes(), 0U);
+  EXPECT_EQ(Note(), won);
+  c.mnu_finddrive.UserClicks();
+  EXPECT_EQ(Note(), "");
+  EXPECT_TRUE(Bytes() == bytes);
 }
 
 }  // namespace

@@ -55,7 +55,8 @@ TEST(MainControls, StandAtTheirPlacesWithTheirFirstValues) {
     const std::string& name = menu->Caption();
     for (const MenuItem* item : menu->items) {
       const bool checkable = name == "Mode" || name == "Background" || name == "Gravity" ||
-                             item == &controls.mnu_showdrive || item == &controls.mnu_bestwin;
+                             item == &controls.mnu_showdrive || item == &controls.mnu_finddrive ||
+                             item == &controls.mnu_bestwin;
       EXPECT_EQ(item->checkable, checkable) << item->name;
     }
   }
