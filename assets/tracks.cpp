@@ -113,8 +113,9 @@ TrackFile Build(const Track& track) {
 }  // namespace
 
 std::vector<TrackFile> Tracks() {
-  return {Build(FirstSteps()),     Build(TwistAndHop()), Build(FrozenAvenue()),
-          Build(SkylineShuttle()), Build(EmberFields()), Build(StarChaser())};
+  return {Build(FirstSteps()),     Build(TwistAndHop()),   Build(FrozenAvenue()),
+          Build(SkylineShuttle()), Build(EmberFields()),   Build(StarChaser()),
+          Build(NoWayAcross()),    Build(TheLongWayHome())};
 }
 
 }  // namespace art

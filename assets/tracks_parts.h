@@ -104,5 +104,7 @@ Track FrozenAvenue();
 Track SkylineShuttle();
 Track EmberFields();
 Track StarChaser();
+Track NoWayAcross();
+Track TheLongWayHome();
 
 }  // namespace art::tracks

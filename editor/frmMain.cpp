@@ -99,10 +99,8 @@ void frmMain::Frame() {
   LastFrameCount_ = services_.clock.Counter();
   try {
     drives.Update();
-    RunFrame({[this] { ProcessKeyboard(); },
-              [this] { return RestartTrack(); },
-              [this] { drives.seat.Updated(); },
-              drives.Additions()});
+    RunFrame({[this] { ProcessKeyboard(); }, [this] { return RestartTrack(); },
+              [this] { drives.seat.Updated(); }, drives.Additions()});
     if (Document.EditorMode == PlayMode) drives.seat.FrameEnds();
   } catch (const std::exception& failure) {
     drives.seat.Abandon();

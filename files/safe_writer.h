@@ -14,9 +14,10 @@ struct Written {
 enum class OldRest { Kept, Dropped };
 
 /// Replaces the start of the file at `path` by `bytes`, or creates it; what the old file holds
-/// beyond them stays after them, unless it is to be dropped. The whole content goes into a temporary file of the same folder,
-/// which is then renamed over the target: at every moment the path holds the old file or the new.
-/// Symbolic links are followed; permissions stay, as far as KeepAccess can keep them. A file beyond
-/// kGreatestFile is refused. Temporary files of killed saves are removed first.
+/// beyond them stays after them, unless it is to be dropped. The whole content goes into a
+/// temporary file of the same folder, which is then renamed over the target: at every moment the
+/// path holds the old file or the new. Symbolic links are followed; permissions stay, as far as
+/// KeepAccess can keep them. A file beyond kGreatestFile is refused. Temporary files of killed
+/// saves are removed first.
 Written WriteFileSafely(const std::string& path, std::string_view bytes,
                         OldRest oldRest = OldRest::Kept);

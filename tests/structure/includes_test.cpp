@@ -20,8 +20,8 @@ struct Sources {
   Sources() {
     static const std::regex line(R"re(^\s*#\s*include\s*(["<])([^">]+)[">])re");
     const fs::path root = SOURCE_FOLDER;
-    for (const char* room : {"app", "tools", "bench", "assets", "editor", "search", "drive", "render",
-                             "play", "files", "level", "platform"}) {
+    for (const char* room : {"app", "tools", "bench", "assets", "editor", "search", "drive",
+                             "render", "play", "files", "level", "platform"}) {
       for (const auto& entry : fs::recursive_directory_iterator(root / room)) {
         const std::string extension = entry.path().extension();
         if (extension != ".cpp" && extension != ".h") continue;
