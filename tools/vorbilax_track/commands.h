@@ -3,6 +3,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
+
+#include "tools/vorbilax_track/search_answer.h"
 
 namespace track_tool {
 
@@ -25,5 +28,14 @@ int Render(const std::string& file, const std::string& picture, const RenderOpti
 /// Drives the track by a key script, a row of the car's numbers per frame on stdout. Until the end:
 /// stops at the first dead row and returns kNotWon unless the track was won.
 int DriveTrack(const std::string& file, const std::string& script, bool untilEnd);
+
+struct VerifyOptions {
+  bool json = false;
+  size_t jobs = 1;  ///< so many tracks at a time
+  Search search;    ///< for tracks without a drive beside them; may be empty
+};
+/// Tells of every track whether it can be won and what is wrong with it. kBadInput when anything
+/// is, kNotWon when nothing is but some track has no win.
+int Verify(const std::vector<std::string>& paths, const VerifyOptions& options);
 
 }  // namespace track_tool

@@ -31,7 +31,7 @@ int Run(const std::function<int()>& command) {
 
 int main(int argc, char** argv) {
   using namespace track_tool;
-  CLI::App app("Reads, converts and draws Vorbilax level files.", "vorbilax-track");
+  CLI::App app("Reads, converts, draws and verifies Vorbilax level files.", "vorbilax-track");
   app.require_subcommand(1);
   app.fallthrough();
   std::string data = paths::ProgramFolder();
@@ -63,6 +63,14 @@ int main(int argc, char** argv) {
   drive->add_option("SCRIPT", script, "lines of frames and keys, such as: 30 up+left")->required();
   drive->add_flag("--until-end", untilEnd, "stop when the run ends; status 3 unless it was won");
 
+  std::vector<std::string> paths;
+  VerifyOptions verifying;
+  CLI::App* verify =
+      app.add_subcommand("verify", "what is wrong with tracks, and whether they can be won");
+  verify->add_option("PATH", paths, "level files, and folders of them")->required();
+  verify->add_flag("--json", verifying.json, "as JSON");
+  verify->add_option("--jobs", verifying.jobs, "tracks at a time")->check(CLI::Range(1, 256));
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& failure) {
@@ -76,6 +84,7 @@ int main(int argc, char** argv) {
     if (info->parsed()) return Info(input, json);
     if (convert->parsed()) return Convert(input, output);
     if (drive->parsed()) return DriveTrack(input, script, untilEnd);
+    if (verify->parsed()) return Verify(paths, verifying);
     return Render(input, output, options);
   });
 }
