@@ -36,6 +36,16 @@ class DepthIndex {
     }
   }
 
+  /// How many rectangles At looks at for this depth.
+  size_t Effort(double z) const {
+    size_t entries = 0;
+    for (const Level& level : levels_) {
+      const size_t cell = level.first + CellOf(z, level);
+      entries += begins_[cell + 1] - begins_[cell];
+    }
+    return entries;
+  }
+
  private:
   struct Level {
     double cell;       ///< its cells' length

@@ -4,6 +4,9 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "tools/vorbilax_track/search_answer.h"
 
 namespace track_tool {
 
@@ -35,5 +38,13 @@ struct SolveOptions {
 /// Looks for a drive that wins the track and says on stdout what came of it; kNotWon where none was
 /// found.
 int Solve(const std::string& file, const SolveOptions& options);
+struct VerifyOptions {
+  bool json = false;
+  size_t jobs = 1;  ///< so many tracks at a time
+  Search search = SearchAndConfirm;  ///< for tracks without a drive that wins
+};
+/// Tells of every track whether it can be won and what is wrong with it. kBadInput when anything
+/// is, kNotWon when nothing is but some track has no win.
+int Verify(const std::vector<std::string>& paths, const VerifyOptions& options);
 
 }  // namespace track_tool

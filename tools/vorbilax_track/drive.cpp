@@ -4,10 +4,7 @@
 #include "drive/key_script.h"
 #include "drive/object_drive.h"
 #include "files/FileIO.h"
-#include "platform/paths.h"
 #include "platform/whole_file.h"
-#include "play/clsPlayer.h"
-#include "render/frame/clsShadow.h"
 #include "tools/vorbilax_track/commands.h"
 #include "tools/vorbilax_track/headless.h"
 
@@ -18,12 +15,6 @@ int BadInput(const std::string& reason) {
   std::fflush(stdout);
   std::fprintf(stderr, "%s\n", reason.c_str());
   return kBadInput;
-}
-
-void LoadCar() {
-  Player.load(paths::InInstallFolder("\\models\\player.x"));
-  Particles.create();
-  Shadow.create();
 }
 
 /// Status of the first dead row, or of the whole script.
@@ -50,7 +41,7 @@ int DriveTrack(const std::string& file, const std::string& scriptFile, bool unti
     if (!editor.Start()) return kBadInput;
     const FileIO::Result result = FileIO::ReadLevel(file);
     if (!result.Ok()) return BadInput(result.message);
-    LoadCar();
+    HeadlessEditor::LoadCar();
     return Run(script, untilEnd);
   } catch (const drive::ScriptError& failure) {
     return BadInput(scriptFile + ": " + failure.what());

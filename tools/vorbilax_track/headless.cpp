@@ -8,7 +8,10 @@
 #include "platform/null/null_platform.h"
 #include "platform/paths.h"
 #include "platform/qt/images.h"
+#include "play/clsPlayer.h"
 #include "render/device/DirectX.h"
+#include "render/device/clsParticles.h"
+#include "render/frame/clsShadow.h"
 
 namespace track_tool {
 namespace {
@@ -111,6 +114,12 @@ bool HeadlessEditor::InitDevice() {
   // What stays on the screen should the track's own backdrop be missing.
   ShowBackdrop(kDefaultBackdrop);
   return true;
+}
+
+void HeadlessEditor::LoadCar() {
+  Player.load(paths::InInstallFolder("\\models\\player.x"));
+  Particles.create();
+  Shadow.create();
 }
 
 Image HeadlessEditor::ReadPicture() { return executor_ ? executor_->ReadPicture() : Image(); }

@@ -35,6 +35,8 @@ class HeadlessEditor {
   using MakeExecutor =
       std::function<std::unique_ptr<gl::PictureExecutor>(const gl::TargetSettings&)>;
   bool Start(const MakeExecutor& make);
+  /// Loads what driving needs beyond the track, on a started device. Throws PlatformError.
+  static void LoadCar();
   /// The last frame, when started with OpenGL.
   Image ReadPicture();
 

@@ -32,7 +32,7 @@ int Run(const std::function<int()>& command) {
 
 int main(int argc, char** argv) {
   using namespace track_tool;
-  CLI::App app("Reads, converts and draws Vorbilax level files.", "vorbilax-track");
+  CLI::App app("Reads, converts, draws and verifies Vorbilax level files.", "vorbilax-track");
   app.require_subcommand(1);
   app.fallthrough();
   std::string data = paths::ProgramFolder();
@@ -72,6 +72,13 @@ int main(int argc, char** argv) {
       ->check(CLI::Range(int64_t{1}, int64_t{1'000'000'000'000}));
   solve->add_option("--states", solving.states, "states to keep at most")
       ->check(CLI::Range(1, 100'000'000));
+  std::vector<std::string> paths;
+  VerifyOptions verifying;
+  CLI::App* verify =
+      app.add_subcommand("verify", "what is wrong with tracks, and whether they can be won");
+  verify->add_option("PATH", paths, "level files, and folders of them")->required();
+  verify->add_flag("--json", verifying.json, "as JSON");
+  verify->add_option("--jobs", verifying.jobs, "tracks at a time")->check(CLI::Range(1, 256));
 
   try {
     app.parse(argc, argv);
@@ -87,6 +94,7 @@ int main(int argc, char** argv) {
     if (convert->parsed()) return Convert(input, output);
     if (solve->parsed()) return Solve(input, solving);
     if (drive->parsed()) return DriveTrack(input, script, untilEnd);
+    if (verify->parsed()) return Verify(paths, verifying);
     return Render(input, output, options);
   });
 }

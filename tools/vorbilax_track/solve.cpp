@@ -12,6 +12,7 @@
 #include "search/drive_search.h"
 #include "tools/vorbilax_track/commands.h"
 #include "tools/vorbilax_track/headless.h"
+#include "tools/vorbilax_track/search_answer.h"
 
 namespace track_tool {
 namespace {
@@ -27,6 +28,15 @@ void ShowProgress(const search::Effort& effort) {
 }
 
 }  // namespace
+
+SearchAnswer SearchAndConfirm(const drive::FrozenTrack& track) {
+  search::Result result = search::FindDrive(track);
+  const bool found = result.outcome == search::Outcome::Won;
+  if (found && !drive::WinsThroughObjects(result.script)) {
+    result.outcome = search::Outcome::NotFound;
+  }
+  return {WordsFor(result), result.outcome == search::Outcome::Won};
+}
 
 int Solve(const std::string& file, const SolveOptions& options) {
   HeadlessEditor editor;
