@@ -13,6 +13,7 @@ void DocumentFigures(BenchEditor& editor, const Report& report);
 void PickFigures(BenchEditor& editor, const Report& report);
 void PlayFigures(BenchEditor& editor, const Report& report);
 void DriveFigures(BenchEditor& editor, const Report& report);
+void SearchFigures(BenchEditor& editor, const Report& report);
 void MemoryFigures(BenchEditor& editor, const Report& report);
 
 /// How the time grows with the count, from 1,000 to kManyPieces: 1 for in proportion.

@@ -39,7 +39,7 @@ int Measure(const bench::Report& report) {
   bench::BenchEditor editor;
   for (const auto group :
        {bench::FrameFigures, bench::RecordFigures, bench::DocumentFigures, bench::PickFigures,
-        bench::PlayFigures, bench::DriveFigures, bench::MemoryFigures}) {
+        bench::PlayFigures, bench::DriveFigures, bench::SearchFigures, bench::MemoryFigures}) {
     group(editor, report);
   }
   return 0;

@@ -87,7 +87,7 @@ class RoadBuilder {
   void Floor(int length, int width) {
     const float left = static_cast<float>(x_) - static_cast<float>(width) / 2;
     Block(clsblock::Normal, {left, float(y_), float(z_)}, {float(width), 1, float(length)});
-    level_.Stars.push_back({float(x_), float(y_ + 1), float(z_ + length / 2)});
+    level_.Stars.push_back({float(x_), float(y_ + 1), float(z_) + float(length) / 2});
     z_ += length;
   }
   void Slope() {

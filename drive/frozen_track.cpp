@@ -54,8 +54,7 @@ FrozenTrack FrozenTrack::OfDocument() {
   FrozenTrack track;
   track.gravity_ = GravityOf(StoredGravityOf(Document.Gravity));
   std::vector<Reach> reaches;
-  reaches.reserve(
-      static_cast<size_t>(Document.BlockCount + Document.PlatformCount + Document.RampCount + 3));
+  reaches.reserve(Document.Blocks.size() + Document.Platforms.size() + Document.Ramps.size());
   track.AddBlocks(reaches);
   track.AddPlatforms(reaches);
   track.AddRamps(reaches);

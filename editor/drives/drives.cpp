@@ -117,13 +117,18 @@ std::string Drives::FollowSearch() {
 /// Car and platforms are shown where they are when the drive comes to what the camera looks at.
 void Drives::PlaceGhost() {
   ghost_.reset();
-  if (!Document.PlatformsPaused || (!ribbon_.Shown() && !foundRibbon_.Shown())) return;
-  const bool own = ribbon_.Shown();
-  const drive::Path& path = own ? shown_.Path() : winning_.Found()->path;
+  if (!Document.PlatformsPaused) return;
   const float depth = DirectX::CameraTarget.z;
-  if (!PassesDepth(path, depth)) return;
-  const size_t frame = PointNearDepth(path, path.size(), depth);
-  ghost_ = Ghost{own ? &shown_.Track() : &winning_.Track(), frame, path[frame].place};
+  const auto place = [&](const drive::FrozenTrack& track, const drive::Path& path) {
+    if (!PassesDepth(path, depth)) return;
+    const size_t frame = PointNearDepth(path, path.size(), depth);
+    ghost_ = Ghost{&track, frame, path[frame].place};
+  };
+  if (ribbon_.Shown()) {
+    place(shown_.Track(), shown_.Path());
+  } else if (const Attempt* const found = winning_.Found(); found && foundRibbon_.Shown()) {
+    place(winning_.Track(), found->path);
+  }
 }
 
 FrameAdditions Drives::Additions() {
@@ -148,8 +153,9 @@ void Drives::Click(float x, float y) {
   std::optional<float> depth;
   if (const auto point = ribbon_.Shown() ? ribbon_.PointAt(x, y) : std::nullopt) {
     depth = shown_.Path()[*point].place.z;
-  } else if (const auto other = foundRibbon_.Shown() ? foundRibbon_.PointAt(x, y) : std::nullopt) {
-    depth = winning_.Found()->path[*other].place.z;
+  } else if (const Attempt* const found = winning_.Found(); found && foundRibbon_.Shown()) {
+    const auto other = foundRibbon_.PointAt(x, y);
+    if (other) depth = found->path[*other].place.z;
   }
   if (!depth) return;
   ScrollBar& bar = controls_.VScroll1;
