@@ -57,9 +57,11 @@ Gravity Normal               F11
 
 Drive   Show Drive           F6
         Drive From Here      F7
+        Find A Winning Drive F8
         Watch Drive          F9
         Save Drive
         Best Win
+        Check Track
 
 Help    About                Ctrl+A
         How to Use           F1
@@ -130,6 +132,14 @@ ghost of the car with them, as when the drive comes to where the camera looks.
 Drive From Here (F7) puts you into the drive where the camera looks: same
 place, same speed, everything as it was. Whoever dies begins there again.
 Watch Drive (F9) lets the drive run; the first key you touch is yours.
+
+Find A Winning Drive (F8) asks whether the track can be won at all. It searches
+while you build; the line below tells what it knows, and a violet ribbon shows
+the drive that it found. With Show Drive off, F7, F9 and Save Drive are about
+that one. What is not found may still be possible: only "No WIN block can be
+reached" is certain.
+
+Check Track lists what is wrong with the track; a click on a line leads there.
 
 Save Drive writes the keys beside the track, into NAME.keys; opening the track
 brings them back. With Best Win checked all of this is about your quickest win.
