@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -99,8 +100,9 @@ void AddFrame(KeyScript& script, CarKeys keys) {
 }
 
 int FrameCount(const KeyScript& script) {
-  const auto add = [](int sum, const KeyRun& run) { return sum + run.frames; };
-  return std::accumulate(script.begin(), script.end(), 0, add);
+  const auto add = [](int64_t sum, const KeyRun& run) { return sum + run.frames; };
+  const int64_t frames = std::accumulate(script.begin(), script.end(), int64_t{0}, add);
+  return static_cast<int>(std::min<int64_t>(frames, std::numeric_limits<int>::max()));
 }
 
 KeyScript Beginning(const KeyScript& script, int frames) {

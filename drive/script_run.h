@@ -7,16 +7,22 @@
 
 namespace drive {
 
-/// Runs from the start of the track to the first win, explosion or fall, or to the script's end.
+/// Runs from the start of the track to the first win, explosion or fall, or to the script's end, so
+/// many frames at most.
 class ScriptRun {
  public:
+  /// More than an hour: longer drives are cut here.
+  static constexpr int kMostFrames = 100'000;
+
   /// Both must outlive the run.
   ScriptRun(const FrozenTrack& track, const KeyScript& script)
       : track_(&track), keys_(script), path_{{state_.car.position, {}, 0}} {}
 
   /// Runs so many frames more, fewer where it ends; false when it has ended.
   bool Advance(int frames);
-  bool IsOver() const { return ending_ != Ending::None || keys_.AtEnd(); }
+  bool IsOver() const {
+    return ending_ != Ending::None || keys_.AtEnd() || state_.frame >= kMostFrames;
+  }
 
   /// None while it goes on, and where the script ended first.
   Ending HowItEnds() const { return ending_; }

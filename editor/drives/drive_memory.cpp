@@ -9,9 +9,6 @@
 namespace drives {
 namespace {
 
-/// So much of a file's drive is worked out when it is found: more is longer than anybody drives.
-constexpr int kMostFrames = 100'000;
-
 bool IsBetter(const Attempt& attempt, const std::optional<Attempt>& best) {
   return attempt.ending == drive::Ending::Wins &&
          (!best || FrameCount(attempt.script) < FrameCount(best->script));
@@ -21,7 +18,7 @@ bool IsBetter(const Attempt& attempt, const std::optional<Attempt>& best) {
 Attempt Driven(drive::KeyScript script) {
   const auto track = drive::FrozenTrack::OfDocument();
   drive::ScriptRun run(track, script);
-  run.Advance(kMostFrames);
+  run.Advance(drive::ScriptRun::kMostFrames);
   return {std::move(script), run.Path(), run.HowItEnds()};
 }
 

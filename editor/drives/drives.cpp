@@ -72,28 +72,43 @@ void Drives::UpdateMenu() {
 void Drives::Update() {
   UpdateMenu();
   std::vector<std::string> notes;
-  if (ShowsDrive()) {
-    notes.push_back(FollowDrive());
-  } else {
-    shown_.Clear();
-    ribbon_.Hide();
-  }
-  if (Searches()) {
-    notes.push_back(FollowSearch());
-  } else {
-    winning_.Rest();
-    foundRibbon_.Hide();
+  try {
+    if (ShowsDrive()) {
+      notes.push_back(FollowDrive());
+    } else {
+      HideDrive();
+    }
+    if (Searches()) {
+      notes.push_back(FollowSearch());
+    } else {
+      HideSearch();
+    }
+    PlaceGhost();
+  } catch (const std::exception& failure) {
+    // The picture goes on without it.
+    HideDrive();
+    HideSearch();
+    ghost_.reset();
+    notes = {failure.what()};
   }
   controls_.viewport.Notes(std::move(notes));
-  PlaceGhost();
+}
+
+void Drives::HideDrive() {
+  shown_.Clear();
+  ribbon_.Hide();
+}
+
+void Drives::HideSearch() {
+  winning_.Rest();
+  foundRibbon_.Hide();
 }
 
 /// Shows the own drive; what there is to say about it.
 std::string Drives::FollowDrive() {
   const Attempt* const chosen = Chosen();
   if (chosen == nullptr) {
-    shown_.Clear();
-    ribbon_.Hide();
+    HideDrive();
     const std::string& why = memory.Present().unreadable;
     return why.empty() ? "No drive to show yet: press F3 and drive" : why;
   }

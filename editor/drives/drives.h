@@ -36,6 +36,8 @@ class Drives {
   void UpdateMenu();
   bool ShowsDrive() const;
   bool Searches() const;
+  void HideDrive();
+  void HideSearch();
   std::string FollowDrive();
   std::string FollowSearch();
   void PlaceGhost();
