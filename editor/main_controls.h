@@ -37,7 +37,8 @@ struct MainControls {
   MenuItem mnu_background, mnu_background1, mnu_background2, mnu_background3, mnu_background4,
       mnu_background5, mnu_background6;
   MenuItem mnu_Gravity, mnu_normal, mnu_low;
-  MenuItem mnu_drive, mnu_showdrive, mnu_drivefromhere, mnu_watchdrive, mnu_savedrive, mnu_bestwin;
+  MenuItem mnu_drive, mnu_showdrive, mnu_drivefromhere, mnu_watchdrive, mnu_savedrive, mnu_bestwin,
+      mnu_checktrack;
   MenuItem mnu_help, mnu_about, mnu_Shortcut;
 
   /// The six backdrop items in order.
