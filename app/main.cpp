@@ -21,6 +21,7 @@ int main(int argc, char** argv) {
   frmMain form({clock, application.Pump(), application.Desktop()});
   application.Build(form.controls.frmMain);
   application.Build(form.about.window);
+  application.Build(form.checks.window);
   const qt::EndSignals endSignals([&form] { form.Terminate(); });
   const bool ran = form.Form_Load();
   dialogs::Use(nullptr);

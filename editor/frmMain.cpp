@@ -27,9 +27,12 @@ double Milliseconds(int64_t counts, int64_t frequency) {
 }  // namespace
 
 frmMain::frmMain(const Services& services)
-    : services_(services),
+    : checks(services.clock),
+      services_(services),
       copies_(services.clock, [this](std::string& bytes) { return EditedTrack(bytes); }) {
-  about.window.owner = &controls.frmMain;
+  about.window.owner = checks.window.owner = &controls.frmMain;
+  // Beside the picture: what is clicked at shows there.
+  checks.window.insideOwner = controls.VScroll1.place.left + controls.VScroll1.place.width;
   ticks::Use(&services_.clock);
   ConnectEvents();
   FileIO::TrackReplaced = [this] { TrackReplaced(); };
@@ -99,6 +102,7 @@ void frmMain::Frame() {
   LastFrameCount_ = services_.clock.Counter();
   try {
     drives.Update();
+    checks.Update();
     RunFrame({[this] { ProcessKeyboard(); }, [this] { return RestartTrack(); },
               [this] { drives.seat.Updated(); }, drives.Additions()});
     if (Document.EditorMode == PlayMode) drives.seat.FrameEnds();
@@ -146,6 +150,7 @@ void frmMain::Shutdown() {
   // Keys and clicks may be waiting behind this one.
   dialogs::CloseDoor();
   about.window.Unload();
+  checks.window.Unload();
   controls.frmMain.Unload();
 }
 

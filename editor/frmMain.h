@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "editor/check_window/check_window.h"
 #include "editor/drives/drives.h"
 #include "editor/frmAbout.h"
 #include "editor/main_controls.h"
@@ -48,6 +49,7 @@ class frmMain {
 
   MainControls controls;
   frmAbout about;
+  CheckWindow checks;
   drives::Drives drives{controls, [this] { mnu_playmode_Click(); }};
 
  private:

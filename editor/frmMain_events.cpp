@@ -133,6 +133,7 @@ void frmMain::ConnectOtherItems() {
   }
   c.mnu_normal.onClick = [this] { ChooseGravity(kNormalGravity); };
   c.mnu_low.onClick = [this] { ChooseGravity(kLowGravity); };
+  c.mnu_checktrack.onClick = [this] { checks.Show(); };
   c.mnu_about.onClick = [this] { about.Show(); };
   c.mnu_Shortcut.onClick = [this] { mnu_Shortcut_Click(); };
 }

@@ -57,6 +57,7 @@ void frmMain::ReturnToEditing(const FileIO::Result& restored) {
 void frmMain::CheckMode(int32_t mode) {
   controls.mnu_editmode.Checked(mode == EditMode);
   controls.mnu_playmode.Checked(mode == PlayMode);
+  controls.mnu_checktrack.Enabled(mode == EditMode);
   history::ShowInMenu();
 }
 

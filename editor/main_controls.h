@@ -38,7 +38,7 @@ struct MainControls {
       mnu_background5, mnu_background6;
   MenuItem mnu_Gravity, mnu_normal, mnu_low;
   MenuItem mnu_drive, mnu_showdrive, mnu_drivefromhere, mnu_finddrive, mnu_watchdrive,
-      mnu_savedrive, mnu_bestwin;
+      mnu_savedrive, mnu_bestwin, mnu_checktrack;
   MenuItem mnu_help, mnu_about, mnu_Shortcut;
 
   /// The six backdrop items in order.

@@ -65,6 +65,7 @@ const MenuRow kMenus[] = {
     {&M::mnu_watchdrive, "mnu_watchdrive", "Watch Drive", "F9", &M::mnu_drive},
     {&M::mnu_savedrive, "mnu_savedrive", "Save Drive", "", &M::mnu_drive},
     {&M::mnu_bestwin, "mnu_bestwin", "Best Win", "", &M::mnu_drive, true},
+    {&M::mnu_checktrack, "mnu_checktrack", "Check Track", "", &M::mnu_drive},
 
     {&M::mnu_help, "mnu_help", "Help", "", nullptr},
     {&M::mnu_about, "mnu_about", "About", "Ctrl+A", &M::mnu_help},

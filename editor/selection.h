@@ -17,6 +17,9 @@ inline constexpr const char* kTrackFullText =
 /// Removes the highlight of the selected object; the selection stays.
 void DeselectCurrent();
 
+/// Selects the piece of this kind with this index, which must be there, as a click on its top does.
+void Select(int32_t type, int32_t index);
+
 /// Copies the selected object to the clipboard; with `cut` deletes it then.
 void CopySelection(bool cut);
 /// Adds a new object made from the clipboard, where the camera looks, and selects it. Throws

@@ -77,6 +77,16 @@ void DeselectCurrent() {
   VisitSelected([](auto& piece) { Unmark(piece); });
 }
 
+void Select(int32_t type, int32_t index) {
+  constexpr int32_t kTop = 3;
+  DeselectCurrent();
+  Document.ObjectSelected = true;
+  Document.SelectedType = type;
+  Document.SelectedIndex = index;
+  Document.SelectedPlane = kTop;
+  ShowProperties();
+}
+
 void ShowProperties() {
   MainControls& c = Controls();
   for (Control* control : std::initializer_list<Control*>{&c.cmbo_Direction, &c.cmd_ramp, &c.Combo1,

@@ -44,6 +44,22 @@ void DropDown::UserSelects(int index) {
   dialogs::Enter(onClick);
 }
 
+void ItemList::Items(std::vector<std::string> items) {
+  items_ = std::move(items);
+  listIndex_ = -1;
+  Changed();
+}
+
+void ItemList::ListIndex(int index) {
+  listIndex_ = index >= 0 && index < static_cast<int>(items_.size()) ? index : -1;
+  Changed();
+}
+
+void ItemList::UserSelects(int index) {
+  ListIndex(index);
+  dialogs::Enter(onClick);
+}
+
 void FileList::Folder(std::string folder) {
   folder_ = std::move(folder);
   entries_ = paths::FileNames(folder_);

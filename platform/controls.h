@@ -99,6 +99,25 @@ class DropDown : public Control {
   int listIndex_ = -1;
 };
 
+/// Lines to choose one of.
+class ItemList : public Control {
+ public:
+  std::function<void()> onClick;
+  const std::vector<std::string>& Items() const { return items_; }
+  /// No entry is selected.
+  void Items(std::vector<std::string> items);
+  /// −1: no entry.
+  int ListIndex() const { return listIndex_; }
+  /// An index without an entry selects none.
+  void ListIndex(int index);
+  /// The selected entry may be chosen again.
+  void UserSelects(int index);
+
+ private:
+  std::vector<std::string> items_;
+  int listIndex_ = -1;
+};
+
 /// The names of a folder's files that match a pattern.
 class FileList : public Control {
  public:
@@ -208,7 +227,8 @@ class Window : public Captioned {
   int clientWidth = 0, clientHeight = 0;  ///< below the menu bar; the border is fixed
   std::vector<MenuItem*> menus;
   std::vector<Control*> controls;
-  const Window* owner = nullptr;    ///< this window stays above its owner; null: it has none
+  const Window* owner = nullptr;  ///< this window stays above its owner; null: it has none
+  int insideOwner = 0;  ///< opens so far right of the owner's left edge; 0: amid the screen
   Button* defaultButton = nullptr;  ///< is focused when the window is shown; Enter, Escape click it
   std::function<void()> onUnload;   ///< the user closes the window
   /// Key messages arrive here before the focused control. The code is a virtual-key code; a

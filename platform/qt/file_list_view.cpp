@@ -1,10 +1,7 @@
 #include "platform/qt/file_list_view.h"
 
-#include <QAbstractItemView>
-#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPixmap>
-#include <QToolTip>
 #include <cmath>
 
 #include "platform/error.h"
@@ -43,12 +40,12 @@ void ThumbnailDelegate::Folder(const std::filesystem::path& folder) {
 
 QSize ThumbnailDelegate::sizeHint(const QStyleOptionViewItem& option,
                                   const QModelIndex& index) const {
-  return {QStyledItemDelegate::sizeHint(option, index).width(), kRowHeight};
+  return {RowDelegate::sizeHint(option, index).width(), kRowHeight};
 }
 
 void ThumbnailDelegate::initStyleOption(QStyleOptionViewItem* option,
                                         const QModelIndex& index) const {
-  QStyledItemDelegate::initStyleOption(option, index);
+  RowDelegate::initStyleOption(option, index);
   QIcon& icon = icons_[option->text];
   if (icon.isNull()) {
     const double scale = option->widget != nullptr ? option->widget->devicePixelRatioF() : 1.0;
@@ -60,20 +57,6 @@ void ThumbnailDelegate::initStyleOption(QStyleOptionViewItem* option,
   option->icon = icon;
   option->decorationSize = QSize(kSide, kSide);
   option->features |= QStyleOptionViewItem::HasDecoration;
-}
-
-bool ThumbnailDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
-                                  const QStyleOptionViewItem& option, const QModelIndex& index) {
-  if (event->type() != QEvent::ToolTip) {
-    return QStyledItemDelegate::helpEvent(event, view, option, index);
-  }
-  QStyleOptionViewItem row(option);
-  initStyleOption(&row, index);
-  const int room = view->style()->subElementRect(QStyle::SE_ItemViewItemText, &row, view).width() -
-                   2 * (view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &row, view) + 1);
-  const bool elided = row.fontMetrics.horizontalAdvance(row.text) > room;
-  QToolTip::showText(event->globalPos(), elided ? row.text : QString(), view);
-  return true;
 }
 
 FileListView::FileListView(QWidget* parent, FileList& list) : QListWidget(parent) {

@@ -4,25 +4,22 @@
 #include <QHash>
 #include <QIcon>
 #include <QListWidget>
-#include <QStyledItemDelegate>
 #include <filesystem>
 #include <string>
 
 #include "platform/controls.h"
+#include "platform/qt/row_delegate.h"
 
 namespace qt {
 
 /// Decodes a picture when its row is first painted and keeps it.
-class ThumbnailDelegate : public QStyledItemDelegate {
+class ThumbnailDelegate : public RowDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  using RowDelegate::RowDelegate;
   /// Forgets the pictures and takes the next ones from `folder`.
   void Folder(const std::filesystem::path& folder);
 
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-  /// Shows the full name when the row has no room for it.
-  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                 const QModelIndex& index) override;
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "platform/qt/file_list_view.h"
+#include "platform/qt/item_list_view.h"
 #include "platform/qt/mirror.h"
 #include "platform/qt/panel_view.h"
 #include "platform/qt/picture_view.h"
@@ -139,6 +140,13 @@ QWidget* Build(PictureArea& area, QWidget* parent) {
   return widget;
 }
 
+QWidget* Build(ItemList& list, QWidget* parent) {
+  auto* widget = new ItemListView(parent, list);
+  Mirror<ItemList, ItemListView>(list, widget,
+                                 [](const ItemList& from, ItemListView& to) { to.Show(from); });
+  return widget;
+}
+
 QWidget* Build(FileList& list, QWidget* parent) {
   auto* widget = new FileListView(parent, list);
   Mirror<FileList, FileListView>(list, widget,
@@ -158,7 +166,7 @@ QWidget* BuildAs(Control& control, QWidget* parent) {
 
 QWidget* BuildWidget(Control& control, QWidget* parent) {
   return BuildAs<Label, Frame, Button, CheckBox, TextBox, DropDown, ::ScrollBar, UpDown,
-                 PictureArea, FileList>(control, parent);
+                 PictureArea, ItemList, FileList>(control, parent);
 }
 
 }  // namespace qt

@@ -107,6 +107,13 @@ void WindowView::Present() {
   adjustSize();
   const QRect room = screen()->availableGeometry();
   QRect place = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size(), room);
+  const QWindow* const owner =
+      windowHandle() != nullptr ? windowHandle()->transientParent() : nullptr;
+  if (window_.insideOwner > 0 && owner != nullptr) {
+    place.moveTopLeft(owner->position() + QPoint(window_.insideOwner, 0));
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveLeft(std::max(place.left(), room.left()));
+  }
   // On a small screen the title and the menus matter most.
   place.moveTop(std::max(place.top(), room.top()));
   move(place.topLeft());
