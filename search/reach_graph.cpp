@@ -125,7 +125,8 @@ void ReachGraph::CountBackwards(const std::atomic<bool>* stop) {
   }
   const double gravity = track_->Gravity();
   while (!queue.empty()) {
-    const auto [frames, index] = queue.top();
+    const float frames = queue.top().first;
+    const size_t index = queue.top().second;
     queue.pop();
     if (frames > framesToWin_[index]) continue;
     if (stop != nullptr && *stop) {
@@ -266,7 +267,8 @@ bool ReachGraph::IsThere(const Node& node, const drive::DriveState& state, int f
   if (node.platform < 0) return true;
   const drive::FrozenPlatform& platform = track_->Platforms()[static_cast<size_t>(node.platform)];
   for (int frame = std::max(from - 1, 0); frame <= to + 1; ++frame) {
-    const double x = platform.way.At(static_cast<size_t>(state.platformSteps + frame)).x;
+    const int32_t step = state.platformSteps + frame;
+    const double x = platform.way.At(static_cast<size_t>(step)).x;
     const double half = Car::kEdge / 2 + node.slackX + kSlackSide;
     if (node.x > x - half && node.x < x + platform.box.size.x + half) return true;
   }

@@ -9,7 +9,7 @@ cache=$(command -v ccache || true)
 
 sources=(platform/{clock,controls,d3dx,d3dx_maths,device,dialogs,error_text,frustum}.cpp
   platform/{paths,random,resources,text,whole_file}.cpp platform/null/*.cpp render/*/*.cpp
-  {level,play,files}/*.cpp drive/*.cpp
+  {level,play,files}/*.cpp {drive,search}/*.cpp
   tests/play/trajectory_test.cpp)
 
 for variant in "g++ -O0" "clang++ -O2"; do
