@@ -1,20 +1,13 @@
-#include <array>
+#include <algorithm>
 #include <cmath>
-#include <cstdio>
 
 #include "check/rules.h"
+#include "drive/words.h"
 
 namespace check {
 namespace {
 
 constexpr int kFrames = 1500;
-constexpr double kSecondsPerFrame = 0.04;
-
-std::string Seconds(int frame) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%.1f s", frame * kSecondsPerFrame);
-  return text.data();
-}
 
 /// Whether a platform may ever be near the start.
 bool PlatformsComeBy(const drive::FrozenTrack& track) {
@@ -86,10 +79,10 @@ bool IdleRun::IsCarried() const {
 void IdleRun::Report(Findings& findings) const {
   std::string text = "With no key touched the car ";
   std::string end;
-  if (ending_ == drive::Ending::Falls) end = "falls after " + Seconds(state_.frame);
-  if (ending_ == drive::Ending::Explodes) end = "explodes after " + Seconds(state_.frame);
+  if (ending_ == drive::Ending::Falls) end = "falls after " + drive::Seconds(state_.frame);
+  if (ending_ == drive::Ending::Explodes) end = "explodes after " + drive::Seconds(state_.frame);
   if (framePushed_ > 0) {
-    text.append("is pushed after ").append(Seconds(framePushed_));
+    text.append("is pushed after ").append(drive::Seconds(framePushed_));
     if (!end.empty()) text.append(" and ").append(end);
     findings.Add(Fault::CarIsPushed, placePushed_, text);
   } else if (!end.empty()) {

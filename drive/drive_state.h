@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "level/block_motion.h"
@@ -50,6 +51,14 @@ constexpr const char* NameOf(Ending ending) {
       break;
   }
   return "";
+}
+
+/// The ending of this name.
+constexpr Ending EndingNamed(std::string_view name) {
+  for (const Ending ending : {Ending::Wins, Ending::Explodes, Ending::Falls}) {
+    if (name == NameOf(ending)) return ending;
+  }
+  return Ending::None;
 }
 
 }  // namespace drive

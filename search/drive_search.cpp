@@ -2,12 +2,12 @@
 
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <deque>
 #include <queue>
 #include <unordered_map>
 #include <vector>
 
+#include "drive/words.h"
 #include "search/reach_graph.h"
 #include "search/seen_cells.h"
 #include "search/state_cells.h"
@@ -236,12 +236,8 @@ Result FindDrive(const drive::FrozenTrack& track, const Limits& limits, const Wa
 
 std::string WordsFor(const Result& result) {
   switch (result.outcome) {
-    case Outcome::Won: {
-      std::array<char, 64> text{};
-      std::snprintf(text.data(), text.size(), "Can be won: %.1f s",
-                    FrameCount(result.script) * 0.04);
-      return text.data();
-    }
+    case Outcome::Won:
+      return "Can be won: " + drive::Seconds(FrameCount(result.script));
     case Outcome::NotFound:
       return "No winning drive found";
     case Outcome::NoWayToWin:

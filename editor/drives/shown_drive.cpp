@@ -1,35 +1,15 @@
 #include "editor/drives/shown_drive.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <limits>
+
+#include "drive/words.h"
 
 namespace drives {
 namespace {
 
 /// Of one call: some milliseconds on the fullest track, and more than most drives have.
 constexpr int kFramesAtOnce = 4000;
-constexpr double kSecondsPerFrame = 0.04;
-
-std::string Seconds(size_t frames) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%.1f s", static_cast<double>(frames) * kSecondsPerFrame);
-  return text.data();
-}
-
-const char* VerbFor(drive::Ending ending) {
-  switch (ending) {
-    case drive::Ending::Wins:
-      return "wins";
-    case drive::Ending::Explodes:
-      return "explodes";
-    case drive::Ending::Falls:
-      return "falls";
-    case drive::Ending::None:
-      break;
-  }
-  return "ends";
-}
 
 }  // namespace
 
@@ -65,16 +45,12 @@ std::span<const drive::PathPoint> ShownDrive::OldRest() const {
 }
 
 std::string ShownDrive::Words() const {
-  const size_t frames = Path().size() - 1;
-  if (!run_->IsOver()) return "Your drive goes on for more than " + Seconds(frames);
-  std::string words = "Your drive ";
-  words.append(VerbFor(run_->HowItEnds())).append(" after ").append(Seconds(frames));
-  const size_t stars = track_.Stars().size();
-  if (run_->HowItEnds() == drive::Ending::Wins && stars > 0) {
-    words.append(" with ").append(std::to_string(run_->State().collected.size()));
-    words.append(" of ").append(std::to_string(stars)).append(stars == 1 ? " star" : " stars");
-  }
-  return words;
+  const auto frames = static_cast<int>(Path().size() - 1);
+  if (!run_->IsOver()) return "Your drive goes on for more than " + drive::Seconds(frames);
+  const drive::Ending ending = run_->HowItEnds();
+  const std::string words = "Your drive " + HowItEnds(ending, frames);
+  if (ending != drive::Ending::Wins) return words;
+  return words + drive::WithStars(run_->State().collected.size(), track_.Stars().size());
 }
 
 int ShownDrive::FrameNear(float depth) const {

@@ -17,8 +17,19 @@ done
 
 first=${shipped[0]}
 cp "$first" "$all/inner/lonely.LVL"
-expect_status 3 "$tool" verify "$all"
-grep -q 'inner/lonely.LVL: No drive beside it$' "$work/out" || fail "$(cat "$work/out")"
+expect_status 0 "$tool" verify "$all"
+grep -qE 'inner/lonely.LVL: Can be won: [0-9.]+ s \(no drive beside it\)$' "$work/out" ||
+  fail "$(cat "$work/out")"
+
+# With the WIN block, the one of kind 1, far aside there is no way to it.
+mkdir "$work/far"
+perl -0777 -pe 'my $at = 74; my $names = unpack "v", substr $_, $at, 2; $at += 2;
+  for my $name (0 .. $names) { $at += 2 + unpack "v", substr $_, $at, 2 }
+  $at += 54;
+  $at += 35 until $at > length or 1 == ord substr $_, $at + 34, 1;
+  substr $_, $at, 4, pack "f<", 500' "$first" >"$work/far/away.lvl"
+expect_status 3 "$tool" verify "$work/far"
+grep -q 'away.lvl: No WIN block can be reached' "$work/out" || fail "$(cat "$work/out")"
 
 # One fault each.
 names=(cut dark falls lost short)
@@ -34,11 +45,12 @@ expect_status 1 "$tool" verify "$all" "$work/none.lvl"
 says() { grep -qE "$1" "$work/out" || fail "not said: $1 in $(cat "$work/out")"; }
 says 'cut.lvl: .*byte offset'
 says "^  block [0-9]+ at .* wears the picture \"${name//[a-z]/x}"
-says 'falls.lvl: its drive wins no more: it falls after [0-9.]+ s at -[0-9.]+ -4[0-9].'
-says 'lost.lvl: lost.keys: line 2: '
-says 'short.lvl: its drive wins no more: it ends after 0.1 s at 0.0 3.3 1.0$'
+says '^  its drive wins no more: it falls after [0-9.]+ s at -[0-9.]+ -4[0-9].'
+says '^  lost.keys: line 2: '
+says 'short.lvl: Can be won: '
+says '^  its drive wins no more: it ends after 0.1 s at 0.0 3.3 1.0$'
 says 'none.lvl: No such file'
-[ "$(grep -c '^  ' "$work/out")" -eq 1 ] || fail "a finding twice: $(cat "$work/out")"
+[ "$(grep -c '^  ' "$work/out")" -eq 4 ] || fail "a finding twice: $(cat "$work/out")"
 [ ! -s "$work/err" ] || fail "progress without a terminal: $(cat "$work/err")"
 
 # Whatever the number of workers, the same in the same order.
@@ -51,7 +63,7 @@ expect_status 1 "$tool" verify "$all/inner" --json --jobs 2
 says '"fault": "missing-texture"'
 says '"kind": "block"'
 [ "$(grep -c '"file"' "$work/out")" -eq $((${#names[@]} + 1)) ] || fail "$(cat "$work/out")"
-[ "$(grep -c '"won": true' "$work/out")" -eq 1 ] || fail "$(cat "$work/out")"
+[ "$(grep -c '"won": true' "$work/out")" -eq 5 ] || fail "$(cat "$work/out")"
 
 mkdir "$work/empty"
 expect_status 1 "$tool" verify "$work/empty"

@@ -7,6 +7,7 @@
 #include "check/check.h"
 #include "drive/key_script.h"
 #include "drive/object_drive.h"
+#include "drive/words.h"
 #include "files/FileIO.h"
 #include "platform/whole_file.h"
 
@@ -15,34 +16,12 @@ namespace {
 
 /// More than an hour: nobody drives as long.
 constexpr int kMostFrames = 100'000;
-constexpr double kSecondsPerFrame = 0.04;
-
-const char* VerbFor(const std::string& event) {
-  if (event == NameOf(drive::Ending::Wins)) return "wins";
-  if (event == NameOf(drive::Ending::Falls)) return "falls";
-  return event.empty() ? "ends" : "explodes";
-}
-
-/// "falls after 8.3 s".
-std::string HowItEnds(const drive::Row& row) {
-  std::array<char, 64> text{};
-  std::snprintf(text.data(), text.size(), "%s after %.1f s", VerbFor(row.event),
-                row.frame * kSecondsPerFrame);
-  return text.data();
-}
 
 std::string Where(const drive::Row& row) {
   std::array<char, 160> text{};
   std::snprintf(text.data(), text.size(), " at %.1f %.1f %.1f", double{row.x}, double{row.y},
                 double{row.z});
   return text.data();
-}
-
-std::string WithStars(const drive::Row& row) {
-  const int32_t stars = Document.StarCount + 1;
-  if (stars == 0) return {};
-  std::string words = " with " + std::to_string(row.stars);
-  return words.append(" of ").append(std::to_string(stars)).append(stars == 1 ? " star" : " stars");
 }
 
 /// What the drive's last row is: the first of an event, or that of the script's end.
@@ -58,11 +37,14 @@ drive::Row LastRow(const drive::KeyScript& script) {
 
 void Drive(const drive::KeyScript& script, Verdict& verdict) {
   const drive::Row row = LastRow(script);
-  verdict.won = row.event == std::string(NameOf(drive::Ending::Wins));
+  const drive::Ending ending = drive::EndingNamed(row.event);
+  const std::string end = HowItEnds(ending, row.frame);
+  verdict.won = ending == drive::Ending::Wins;
   if (verdict.won) {
-    verdict.words = "its drive " + HowItEnds(row) + WithStars(row);
+    const auto stars = static_cast<size_t>(Document.StarCount + int64_t{1});
+    verdict.words = "its drive " + end + drive::WithStars(static_cast<size_t>(row.stars), stars);
   } else {
-    verdict.Refuse("lost-drive", "its drive wins no more: it " + HowItEnds(row) + Where(row),
+    verdict.Refuse("lost-drive", "its drive wins no more: it " + end + Where(row),
                    {row.x, row.y, row.z});
   }
 }
