@@ -40,7 +40,7 @@ struct SolveOptions {
 int Solve(const std::string& file, const SolveOptions& options);
 struct VerifyOptions {
   bool json = false;
-  size_t jobs = 1;  ///< so many tracks at a time
+  size_t jobs = 1;                   ///< so many tracks at a time
   Search search = SearchAndConfirm;  ///< for tracks without a drive that wins
 };
 /// Tells of every track whether it can be won and what is wrong with it. kBadInput when anything

@@ -14,8 +14,8 @@ struct SearchAnswer {
 };
 using Search = std::function<SearchAnswer(const drive::FrozenTrack&)>;
 
-/// Searches within the usual limits; a win is confirmed by the objects of the document, in which the
-/// same track must stand.
+/// Searches within the usual limits; a win is confirmed by the objects of the document, in which
+/// the same track must stand.
 SearchAnswer SearchAndConfirm(const drive::FrozenTrack& track);
 
 }  // namespace track_tool
