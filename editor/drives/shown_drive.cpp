@@ -48,7 +48,7 @@ std::string ShownDrive::Words() const {
   const auto frames = static_cast<int>(Path().size() - 1);
   if (!run_->IsOver()) return "Your drive goes on for more than " + drive::Seconds(frames);
   const drive::Ending ending = run_->HowItEnds();
-  const std::string words = "Your drive " + HowItEnds(ending, frames);
+  std::string words = "Your drive " + HowItEnds(ending, frames);
   if (ending != drive::Ending::Wins) return words;
   return words + drive::WithStars(run_->State().collected.size(), track_.Stars().size());
 }
